@@ -1,0 +1,15 @@
+# CirroApi::Library is what the application links by import: a vendor's camera
+# API library when CIRRO_API_LIBRARY names one, else the simulated driver.
+if(CIRRO_API_LIBRARY)
+    if(NOT EXISTS "${CIRRO_API_LIBRARY}")
+        message(FATAL_ERROR "CIRRO_API_LIBRARY: no such file: ${CIRRO_API_LIBRARY}")
+    endif()
+    add_library(cirro_api_vendor SHARED IMPORTED GLOBAL)
+    set_target_properties(cirro_api_vendor PROPERTIES IMPORTED_LOCATION "${CIRRO_API_LIBRARY}")
+    target_link_libraries(cirro_api_vendor INTERFACE CirroApi::Headers)
+    add_library(CirroApi::Library ALIAS cirro_api_vendor)
+    message(STATUS "Camera API: ${CIRRO_API_LIBRARY}")
+else()
+    add_library(CirroApi::Library ALIAS cirro_api)
+    message(STATUS "Camera API: simulated driver")
+endif()

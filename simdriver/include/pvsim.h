@@ -1,0 +1,58 @@
+/*
+ * Control interface of the simulated camera driver. The simulated driver
+ * exports these next to the pv_ operations so that tests and demos can plug,
+ * unplug and change virtual cameras, make operations fail, and read what the
+ * driver sees. A vendor library does not have them; probe with dlsym before
+ * calling them from code that may run on either.
+ *
+ * Scenario and camera descriptions are JSON; the schema is described in
+ * simdriver/README.md.
+ */
+#ifndef PVSIM_H
+#define PVSIM_H
+
+#include "cirro_api.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Replaces the whole fleet, the adapters and the driver settings by those of a
+ * scenario file (path NULL: the built-in default fleet). Cameras that leave
+ * signal PV_EVENT_DEVICE_REMOVED, cameras that come PV_EVENT_DEVICE_ARRIVED.
+ * Event registrations and open failures stay as they are. */
+PV_API int32_t PV_CALL pvsim_LoadScenario(const char* path);
+PV_API int32_t PV_CALL pvsim_LoadScenarioText(const char* json);
+
+/* Plugs a camera described by a JSON object; writes its device ID. */
+PV_API int32_t PV_CALL pvsim_PlugCamera(const char* cameraJson, uint32_t* deviceId);
+PV_API int32_t PV_CALL pvsim_UnplugCamera(uint32_t deviceId);
+/* Applies the fields of a JSON object to a connected camera. */
+PV_API int32_t PV_CALL pvsim_ChangeCamera(uint32_t deviceId, const char* changesJson);
+
+/* The next `times` calls of the named operation (such as "pv_OpenCamera")
+ * fail with `code` without doing anything. */
+PV_API int32_t PV_CALL pvsim_FailOperation(const char* operation, int32_t code, uint32_t times);
+PV_API int32_t PV_CALL pvsim_ClearFailures(void);
+
+/* The driver's view as a JSON document: cameras with their state and who has
+ * them open, adapters, settings, services. Writes the size needed including
+ * the terminating NUL into *required; PV_ERR_BUFFER_TOO_SMALL when it does not
+ * fit into `size` bytes. */
+PV_API int32_t PV_CALL pvsim_GetState(char* buffer, uint32_t size, uint32_t* required);
+
+/* The two driver services, "cirro_usb" and "cirro_eth". A stopped service
+ * hides its cameras. State: 1 not installed, 2 stopped, 3 running. */
+PV_API int32_t PV_CALL pvsim_SetServiceRunning(const char* service, int32_t running);
+PV_API int32_t PV_CALL pvsim_GetServiceState(const char* service, int32_t* state);
+
+PV_API int32_t PV_CALL pvsim_SetApiVersion(uint32_t version);
+/* Factor applied to every simulated duration (firmware upload, reboot,
+ * timeline); 1.0 is real time. */
+PV_API int32_t PV_CALL pvsim_SetTimeScale(double scale);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* PVSIM_H */

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringList>
+
+// The program's start-up after the application object exists: identity,
+// command line, camera API version check, main window and event loop.
+namespace Startup {
+
+// Process-wide preparation that must precede the application object.
+void prepareProcess();
+
+int run(const QStringList& arguments);
+
+} // namespace Startup

@@ -1,0 +1,10 @@
+#include "app/startup.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    Startup::prepareProcess();
+    QApplication app(argc, argv);
+    return Startup::run(app.arguments());
+}
