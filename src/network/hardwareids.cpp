@@ -1,0 +1,75 @@
+#include "network/hardwareids.h"
+
+#include "network/networklogging.h"
+
+namespace {
+
+QByteArray hexId(quint16 id)
+{
+    return QByteArray::number(id, 16).rightJustified(4, '0');
+}
+
+// Start of the first line of text that begins with prefix, or -1.
+int lineStarting(const QByteArray& text, const QByteArray& prefix)
+{
+    for (int at = text.indexOf(prefix); at >= 0; at = text.indexOf(prefix, at + 1)) {
+        if (at == 0 || text.at(at - 1) == '\n')
+            return at;
+    }
+    return -1;
+}
+
+QString restOfLine(const QByteArray& text, int from)
+{
+    const int end = text.indexOf('\n', from);
+    return QString::fromUtf8(text.mid(from, end < 0 ? -1 : end - from)).trimmed();
+}
+
+// The indented lines (and comments) that follow a vendor line.
+QByteArray vendorBlock(const QByteArray& text, int vendorLine)
+{
+    const int start = text.indexOf('\n', vendorLine) + 1;
+    if (start == 0)
+        return {};
+    int end = start;
+    while (end < text.size() && (text.at(end) == '\t' || text.at(end) == '#' || text.at(end) == '\n')) {
+        const int newline = text.indexOf('\n', end);
+        end = newline < 0 ? text.size() : newline + 1;
+    }
+    return QByteArray::fromRawData(text.constData() + start, end - start);
+}
+
+} // namespace
+
+HardwareIds::HardwareIds(const QStringList& candidates)
+{
+    for (const QString& path : candidates) {
+        m_file.setFileName(path);
+        if (!m_file.open(QIODevice::ReadOnly))
+            continue;
+        const uchar* data = m_file.size() > 0 ? m_file.map(0, m_file.size()) : nullptr;
+        if (data) {
+            m_text = QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(m_file.size()));
+            return;
+        }
+        qCWarning(lcNetwork) << "cannot read hardware id list" << path << m_file.errorString();
+        m_file.close();
+    }
+}
+
+HardwareIds::Names HardwareIds::lookup(quint16 vendor, quint16 device) const
+{
+    Names names;
+    const QByteArray vendorPrefix = hexId(vendor) + "  ";
+    const int vendorLine = lineStarting(m_text, vendorPrefix);
+    if (vendorLine < 0)
+        return names;
+    names.vendor = restOfLine(m_text, vendorLine + vendorPrefix.size());
+
+    const QByteArray block = vendorBlock(m_text, vendorLine);
+    const QByteArray devicePrefix = '\t' + hexId(device) + "  ";
+    const int deviceLine = lineStarting(block, devicePrefix);
+    if (deviceLine >= 0)
+        names.device = restOfLine(block, deviceLine + devicePrefix.size());
+    return names;
+}

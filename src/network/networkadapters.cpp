@@ -1,0 +1,76 @@
+#include "network/networkadapters.h"
+
+#include "network/networkadapters_p.h"
+
+#include <QNetworkAddressEntry>
+#include <QNetworkInterface>
+
+#include <optional>
+
+namespace {
+
+std::optional<QNetworkAddressEntry> firstIpv4Entry(const QNetworkInterface& interface)
+{
+    for (const QNetworkAddressEntry& entry : interface.addressEntries()) {
+        if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol)
+            return entry;
+    }
+    return std::nullopt;
+}
+
+// A leased address expires; a configured one is permanent.
+bool isLeased(const std::optional<QNetworkAddressEntry>& entry)
+{
+    return entry && !entry->isPermanent();
+}
+
+NetworkAdapter adapterFrom(const QNetworkInterface& interface)
+{
+    NetworkAdapter adapter;
+    adapter.humanReadableName = interface.humanReadableName();
+    adapter.interfaceName = interface.name();
+    adapter.hardwareAddress = interface.hardwareAddress();
+
+    const AdapterDriverInfo driver = getAdapterDriverInfo(adapter.interfaceName);
+    adapter.description = getAdapterDescription(adapter.interfaceName);
+    adapter.driverVersion = driver.version;
+    adapter.driverDate = driver.date;
+    adapter.flags = interface.flags();
+
+    const std::optional<QNetworkAddressEntry> ipv4 = firstIpv4Entry(interface);
+    if (ipv4) {
+        adapter.ipv4Address = ipv4->ip();
+        adapter.ipv4Netmask = ipv4->netmask();
+    }
+    adapter.dhcp = isLeased(ipv4);
+    return adapter;
+}
+
+} // namespace
+
+NetworkAdapterList getNetworkAdapters()
+{
+    NetworkAdapterList adapters;
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces())
+        adapters.append(adapterFrom(interface));
+    return adapters;
+}
+
+QPair<QString, QString> findAdapterByMac(const QString& mac)
+{
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
+        if (interface.hardwareAddress().compare(mac, Qt::CaseSensitive) == 0)
+            return {interface.humanReadableName(), interface.name()};
+    }
+    return {};
+}
+
+NetworkResult getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp)
+{
+    const QNetworkInterface interface = QNetworkInterface::interfaceFromName(interfaceName);
+    if (!interface.isValid())
+        return NetworkResult::unknownInterface(interfaceName);
+    index = interface.index();
+    dhcp = managedDhcpState(interfaceName).value_or(isLeased(firstIpv4Entry(interface)));
+    return {};
+}

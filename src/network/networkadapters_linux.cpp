@@ -1,0 +1,28 @@
+#include "network/networkadapters.h"
+
+#include "network/adapterdescription_linux.h"
+#include "network/ethtooldriverinfo_linux.h"
+#include "network/kernelmodules_linux.h"
+#include "network/networkadapters_p.h"
+#include "network/networkmanagerclient_linux.h"
+#include "network/sysfsnetdevice_linux.h"
+
+QString getAdapterDescription(const QString& interfaceName)
+{
+    return AdapterDescription::system().describe(interfaceName, EthtoolDriverInfo::query(interfaceName).driver);
+}
+
+AdapterDriverInfo getAdapterDriverInfo(const QString& interfaceName)
+{
+    AdapterDriverInfo info = EthtoolDriverInfo::query(interfaceName);
+    const QString module = SysfsNetDevice(QStringLiteral("/sys"), interfaceName).driverModule();
+    info.date = KernelModules::running().buildDate(module.isEmpty() ? info.driver : module);
+    return info;
+}
+
+std::optional<bool> managedDhcpState(const QString& interfaceName)
+{
+    if (!NetworkManagerClient::managesThisNetworkNamespace())
+        return std::nullopt;
+    return NetworkManagerClient(QDBusConnection::systemBus()).dhcpEnabled(interfaceName);
+}

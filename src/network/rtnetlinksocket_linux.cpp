@@ -1,0 +1,171 @@
+#include "network/rtnetlinksocket_linux.h"
+
+#include <linux/netlink.h>
+#include <linux/rtnetlink.h>
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+constexpr std::size_t attributeSpace = 3 * RTA_SPACE(sizeof(quint32));
+
+struct AddressRequest
+{
+    nlmsghdr header;
+    ifaddrmsg message;
+    alignas(NLMSG_ALIGNTO) char attributes[attributeSpace];
+};
+
+void appendAttribute(nlmsghdr* header, unsigned short type, quint32 networkOrderValue)
+{
+    auto* attribute = reinterpret_cast<rtattr*>(reinterpret_cast<char*>(header) + NLMSG_ALIGN(header->nlmsg_len));
+    attribute->rta_type = type;
+    attribute->rta_len = RTA_LENGTH(sizeof networkOrderValue);
+    std::memcpy(RTA_DATA(attribute), &networkOrderValue, sizeof networkOrderValue);
+    header->nlmsg_len = NLMSG_ALIGN(header->nlmsg_len) + RTA_ALIGN(attribute->rta_len);
+}
+
+quint32 netmask(int prefixLength)
+{
+    return prefixLength == 0 ? 0 : ~quint32(0) << (32 - prefixLength);
+}
+
+// IFA_LOCAL is the interface's own address; IFA_ADDRESS is the peer on
+// point-to-point links and equal to it elsewhere.
+bool readAddress(const ifaddrmsg* message, std::size_t length, quint32* address)
+{
+    bool found = false;
+    auto* attribute = reinterpret_cast<const rtattr*>(reinterpret_cast<const char*>(message) + NLMSG_ALIGN(sizeof *message));
+    auto remaining = static_cast<unsigned int>(length - NLMSG_ALIGN(sizeof *message));
+    for (; RTA_OK(attribute, remaining); attribute = RTA_NEXT(attribute, remaining)) {
+        if ((attribute->rta_type == IFA_LOCAL || (attribute->rta_type == IFA_ADDRESS && !found))
+            && RTA_PAYLOAD(attribute) == sizeof(quint32)) {
+            quint32 value = 0;
+            std::memcpy(&value, RTA_DATA(attribute), sizeof value);
+            *address = ntohl(value);
+            found = true;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+RtnetlinkSocket::RtnetlinkSocket()
+{
+    m_fd = ::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_ROUTE);
+    if (m_fd < 0) {
+        m_openError = errno;
+        return;
+    }
+    sockaddr_nl local{};
+    local.nl_family = AF_NETLINK;
+    if (::bind(m_fd, reinterpret_cast<sockaddr*>(&local), sizeof local) < 0) {
+        m_openError = errno;
+        ::close(m_fd);
+        m_fd = -1;
+    }
+}
+
+RtnetlinkSocket::~RtnetlinkSocket()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+}
+
+int RtnetlinkSocket::ipv4Addresses(int interfaceIndex, QVector<Ipv4Address>* addresses)
+{
+    struct
+    {
+        nlmsghdr header;
+        ifaddrmsg message;
+    } request{};
+    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
+    request.header.nlmsg_type = RTM_GETADDR;
+    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    request.message.ifa_family = AF_INET;
+    if (const int error = send(&request, request.header.nlmsg_len))
+        return error;
+    return receive([&](const ifaddrmsg* message, std::size_t length) {
+        Ipv4Address entry;
+        if (message->ifa_family == AF_INET && int(message->ifa_index) == interfaceIndex
+            && readAddress(message, length, &entry.address)) {
+            entry.prefixLength = message->ifa_prefixlen;
+            addresses->append(entry);
+        }
+    });
+}
+
+int RtnetlinkSocket::addIpv4(int interfaceIndex, const Ipv4Address& address)
+{
+    return changeIpv4(RTM_NEWADDR, NLM_F_CREATE | NLM_F_REPLACE, interfaceIndex, address);
+}
+
+int RtnetlinkSocket::deleteIpv4(int interfaceIndex, const Ipv4Address& address)
+{
+    return changeIpv4(RTM_DELADDR, 0, interfaceIndex, address);
+}
+
+int RtnetlinkSocket::changeIpv4(int type, int flags, int interfaceIndex, const Ipv4Address& address)
+{
+    AddressRequest request{};
+    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
+    request.header.nlmsg_type = static_cast<unsigned short>(type);
+    request.header.nlmsg_flags = static_cast<unsigned short>(NLM_F_REQUEST | NLM_F_ACK | flags);
+    request.message.ifa_family = AF_INET;
+    request.message.ifa_prefixlen = static_cast<unsigned char>(address.prefixLength);
+    request.message.ifa_scope = RT_SCOPE_UNIVERSE;
+    request.message.ifa_index = static_cast<unsigned int>(interfaceIndex);
+    appendAttribute(&request.header, IFA_LOCAL, htonl(address.address));
+    appendAttribute(&request.header, IFA_ADDRESS, htonl(address.address));
+    // /31 and /32 networks have no broadcast address.
+    if (type == RTM_NEWADDR && address.prefixLength < 31)
+        appendAttribute(&request.header, IFA_BROADCAST, htonl(address.address | ~netmask(address.prefixLength)));
+    if (const int error = send(&request, request.header.nlmsg_len))
+        return error;
+    return receive([](const ifaddrmsg*, std::size_t) {});
+}
+
+int RtnetlinkSocket::send(const void* message, std::size_t size)
+{
+    if (m_fd < 0)
+        return m_openError;
+    auto* header = static_cast<nlmsghdr*>(const_cast<void*>(message));
+    header->nlmsg_seq = ++m_sequence;
+    sockaddr_nl kernel{};
+    kernel.nl_family = AF_NETLINK;
+    const ssize_t sent = ::sendto(m_fd, message, size, 0, reinterpret_cast<sockaddr*>(&kernel), sizeof kernel);
+    return sent < 0 ? errno : 0;
+}
+
+template<typename OnAddress>
+int RtnetlinkSocket::receive(OnAddress onAddress)
+{
+    alignas(nlmsghdr) char buffer[32768];
+    for (;;) {
+        const ssize_t received = ::recv(m_fd, buffer, sizeof buffer, 0);
+        if (received < 0) {
+            if (errno == EINTR)
+                continue;
+            return errno;
+        }
+        auto remaining = static_cast<unsigned int>(received);
+        for (auto* header = reinterpret_cast<nlmsghdr*>(buffer); NLMSG_OK(header, remaining);
+             header = NLMSG_NEXT(header, remaining)) {
+            if (header->nlmsg_seq != m_sequence)
+                continue;
+            if (header->nlmsg_type == NLMSG_DONE)
+                return 0;
+            if (header->nlmsg_type == NLMSG_ERROR) {
+                const auto* error = static_cast<const nlmsgerr*>(NLMSG_DATA(header));
+                return -error->error;
+            }
+            if (header->nlmsg_type == RTM_NEWADDR)
+                onAddress(static_cast<const ifaddrmsg*>(NLMSG_DATA(header)), NLMSG_PAYLOAD(header, 0));
+        }
+    }
+}
