@@ -1,0 +1,41 @@
+#pragma once
+
+#include "netaddress.h"
+#include "simresult.h"
+
+#include <QJsonObject>
+
+namespace sim {
+
+// A network adapter of the virtual GigE network. Cameras name the adapter that
+// serves them; its addresses, range, link and packet settings decide whether
+// they can be reached.
+struct SimAdapter
+{
+    std::string name;
+    MacAddress mac{};
+    std::uint32_t adapterId = 0;
+    std::uint32_t ip = 0;
+    std::uint32_t mask = 0;
+    std::uint32_t gateway = 0;
+    std::uint32_t linkSpeed = 1000; // Mbit/s
+    bool dhcp = false;
+    std::uint32_t mtu = 9000; // largest frame payload the adapter itself takes
+    bool jumbo2k = true;      // the driver sends 2 KB packets
+    std::int32_t packetFilter = 0;
+    bool multicastEnabled = true;
+    bool bound = true; // the ETH service runs on this adapter
+    std::uint32_t rangeBegin = 0;
+    std::uint32_t rangeEnd = 0;
+
+    Result apply(const QJsonObject& json);
+
+    bool rangeValid() const;
+    // Packets are large enough for the cameras only with 2 KB jumbo packets on.
+    bool settingsOk() const { return jumbo2k && mtu >= 2048; }
+    std::uint32_t driverPacketSize() const { return jumbo2k ? 2048u : 1450u; }
+    bool matches(const pv_AdapterId& id) const;
+    void fillBlock(pv_AdapterBlock& block, std::uint32_t devicesKnown, std::uint32_t devicesPaired) const;
+};
+
+} // namespace sim

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "eventhub.h"
+#include "faultinjector.h"
+#include "fleet.h"
+#include "scenario.h"
+#include "scheduler.h"
+
+#include <atomic>
+#include <mutex>
+
+namespace sim {
+
+// The simulated driver: the fleet behind one lock, the events, the fault
+// injector and the scheduler. Every change to the fleet goes through change(),
+// which signals the device events that a real driver would signal for it.
+class SimDriver
+{
+public:
+    static SimDriver& instance();
+
+    SimDriver();
+    SimDriver(const SimDriver&) = delete;
+    SimDriver& operator=(const SimDriver&) = delete;
+
+    // Runs `action` on the fleet under the lock, then signals arrival, removal
+    // and change events for every camera whose visible state moved.
+    template <typename Action>
+    Result change(Action&& action);
+
+    // Runs `action` on the fleet under the lock, for reading.
+    template <typename Action>
+    auto read(Action&& action)
+    {
+        std::lock_guard lock(m_mutex);
+        return action(m_fleet);
+    }
+
+    Result load(Scenario scenario);
+    // Reads the service configuration files: bindings and driver values.
+    void readConfiguration(Fleet& fleet) const;
+
+    EventHub& events() { return m_events; }
+    FaultInjector& faults() { return m_faults; }
+    Scheduler& scheduler() { return m_scheduler; }
+
+    std::uint32_t newHandle();
+    double timeScale() const { return m_timeScale.load(); }
+    void setTimeScale(double scale) { m_timeScale = scale; }
+    std::chrono::milliseconds scaled(std::chrono::milliseconds duration) const;
+
+private:
+    void signalDifferences(const std::map<std::uint32_t, std::string>& before,
+                           const std::map<std::uint32_t, std::string>& after);
+    void scheduleTimeline(const std::vector<TimelineEvent>& timeline);
+    void runTimelineEvent(const TimelineEvent& event);
+
+    std::mutex m_mutex;
+    Fleet m_fleet;
+    std::map<std::uint32_t, std::string> m_fingerprints;
+    std::uint32_t m_nextHandle = 0x100;
+    std::atomic<double> m_timeScale{1.0};
+    EventHub m_events;
+    FaultInjector m_faults;
+    Scheduler m_scheduler; // last: its thread stops before the rest goes
+};
+
+template <typename Action>
+Result SimDriver::change(Action&& action)
+{
+    std::map<std::uint32_t, std::string> before, after;
+    Result result;
+    {
+        std::lock_guard lock(m_mutex);
+        result = action(m_fleet);
+        before = std::move(m_fingerprints);
+        m_fingerprints = m_fleet.recompute();
+        after = m_fingerprints;
+    }
+    signalDifferences(before, after);
+    return result;
+}
+
+} // namespace sim

@@ -1,0 +1,114 @@
+#include "statereport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace sim {
+
+namespace {
+
+QString ip(std::uint32_t address)
+{
+    return QString::fromStdString(NetAddress::formatIp(address));
+}
+
+QString version(std::uint32_t word)
+{
+    return QStringLiteral("%1.%2.%3").arg(word >> 24).arg((word >> 16) & 0xFF).arg(word & 0xFFFF);
+}
+
+QJsonObject cameraReport(const SimCamera& camera, bool visible)
+{
+    return QJsonObject{
+        {"deviceId", qint64(camera.deviceId)},
+        {"kind", kindName(camera.kind)},
+        {"serial", QString::fromStdString(camera.serial)},
+        {"cameraId", qint64(camera.cameraId)},
+        {"visible", visible},
+        {"open", camera.isOpen()},
+        {"handle", qint64(camera.openHandle)},
+        {"openedElsewhere", camera.openedElsewhere},
+        {"otherHost", camera.heldByOtherHost},
+        {"uploading", camera.uploading},
+        {"rebooting", camera.rebooting},
+        {"identifyCount", qint64(camera.identifyCount)},
+        {"adapter", QString::fromStdString(camera.adapterName)},
+        {"currentIp", ip(camera.currentIp)},
+        {"persistentIp", ip(camera.persistentIp)},
+        {"persistentMask", ip(camera.persistentMask)},
+        {"dhcp", camera.dhcp},
+        {"multicastIp", ip(camera.multicastIp)},
+        {"multicastEnabled", camera.multicastEnabled},
+        {"starterFirmware", version(camera.starterFirmware)},
+        {"deviceStatus", qint64(camera.deviceStatus)},
+        {"deviceControl", qint64(camera.deviceControl)},
+    };
+}
+
+QJsonObject adapterReport(const SimAdapter& adapter)
+{
+    return QJsonObject{
+        {"name", QString::fromStdString(adapter.name)},
+        {"mac", QString::fromStdString(NetAddress::formatMac(adapter.mac))},
+        {"ip", ip(adapter.ip)},
+        {"mask", ip(adapter.mask)},
+        {"linkSpeed", qint64(adapter.linkSpeed)},
+        {"bound", adapter.bound},
+        {"dhcp", adapter.dhcp},
+        {"jumbo2k", adapter.jumbo2k},
+        {"packetFilter", adapter.packetFilter},
+        {"rangeBegin", ip(adapter.rangeBegin)},
+        {"rangeEnd", ip(adapter.rangeEnd)},
+    };
+}
+
+QJsonObject settingsReport(const DriverSettings& settings)
+{
+    QJsonArray ids;
+    for (std::uint8_t id : settings.bootBoostIds)
+        ids.append(id);
+    QJsonObject registry;
+    for (const auto& [key, value] : settings.registry)
+        registry.insert(QString::fromStdString(key), QString::fromStdString(value));
+    return QJsonObject{
+        {"apiVersion", QStringLiteral("%1.%2").arg(settings.apiVersion >> 24).arg((settings.apiVersion >> 16) & 0xFF)},
+        {"starterImage", version(settings.starterImage)},
+        {"bootBoost", settings.bootBoostEnabled},
+        {"bootBoostIds", ids},
+        {"idleState", qint64(settings.idleState)},
+        {"ipo", qint64(settings.ipo)},
+        {"trustedPairing", qint64(settings.trustedPairing)},
+        {"memoryCompat", qint64(settings.memoryCompat)},
+        {"summitCompat", qint64(settings.summitCompat)},
+        {"readOnlyMulticast", qint64(settings.readOnlyMulticast)},
+        {"usbServiceRunning", settings.usbServiceRunning},
+        {"ethServiceRunning", settings.ethServiceRunning},
+        {"registry", registry},
+    };
+}
+
+} // namespace
+
+std::string stateReport(const Fleet& fleet, std::size_t eventCount)
+{
+    QJsonArray cameras;
+    const auto visible = fleet.visibleCameras();
+    for (const auto& [id, camera] : fleet.cameras()) {
+        const bool shown = std::find(visible.begin(), visible.end(), &camera) != visible.end();
+        cameras.append(cameraReport(camera, shown));
+    }
+    QJsonArray adapters;
+    for (const SimAdapter& adapter : fleet.adapters)
+        adapters.append(adapterReport(adapter));
+    const QJsonObject root{
+        {"driver", settingsReport(fleet.settings)},
+        {"adapters", adapters},
+        {"cameras", cameras},
+        {"pendingReadOnly", qint64(fleet.pendingReadOnly.size())},
+        {"events", qint64(eventCount)},
+    };
+    return QJsonDocument(root).toJson(QJsonDocument::Compact).toStdString();
+}
+
+} // namespace sim
