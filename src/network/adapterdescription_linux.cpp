@@ -70,5 +70,7 @@ QString AdapterDescription::describe(const QString& interfaceName, const QString
     const HardwareIds::Names names = ids ? ids->lookup(identity.vendor, identity.device) : HardwareIds::Names{};
     if (!names.device.isEmpty())
         return names.vendor + QLatin1Char(' ') + names.device;
+    if (!names.vendor.isEmpty())
+        return QStringLiteral("%1 Device %2").arg(names.vendor, hexId(identity.device));
     return hexId(identity.vendor) + QLatin1Char(':') + hexId(identity.device);
 }

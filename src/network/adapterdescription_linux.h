@@ -17,9 +17,9 @@ public:
     // The live system, with the id lists that pciutils and usbutils read.
     static const AdapterDescription& system();
 
-    // "1" when there is no such interface. Hardware without a name in the id
-    // lists is shown by its ids, "8086:15f3". driverName stands for virtual
-    // interfaces that sysfs does not classify.
+    // "1" when there is no such interface. Hardware missing from the id lists
+    // shows its numbers: "Intel Corporation Device 15f3" or "8086:15f3".
+    // driverName names virtual interfaces that sysfs does not classify.
     QString describe(const QString& interfaceName, const QString& driverName) const;
 
 private:

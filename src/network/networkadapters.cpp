@@ -58,6 +58,9 @@ NetworkAdapterList getNetworkAdapters()
 
 QPair<QString, QString> findAdapterByMac(const QString& mac)
 {
+    // Interfaces without a hardware address (tunnels) must not match nothing.
+    if (mac.isEmpty())
+        return {};
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
         if (interface.hardwareAddress().compare(mac, Qt::CaseSensitive) == 0)
             return {interface.humanReadableName(), interface.name()};
