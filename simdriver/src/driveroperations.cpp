@@ -18,10 +18,16 @@ void writeWord(void* buffer, std::uint32_t value)
     std::memcpy(buffer, &value, sizeof value);
 }
 
-Result eventScope(SimDriver& driver, std::uint32_t handle, EventHub::Scope& scope)
+// Events of a device stay addressable by its device ID after it left, so that
+// a client can still release them; creating one needs the device present.
+Result eventScope(SimDriver& driver, std::uint32_t handle, std::uint32_t command, EventHub::Scope& scope)
 {
     if (handle == PV_DRIVER_HANDLE) {
         scope = 0;
+        return success();
+    }
+    if ((handle & PV_DEVICE_ID_FLAG) && handle <= 0xFFFFu && command != PV_EVENT_INIT) {
+        scope = EventHub::deviceScope(handle & ~PV_DEVICE_ID_FLAG);
         return success();
     }
     return driver.read([&](Fleet& fleet) {
@@ -94,7 +100,7 @@ Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, voi
     if (Result r = checkBuffer(block, size, needed, "pv_Event"); !r.ok())
         return r;
     EventHub::Scope scope = 0;
-    if (Result r = eventScope(driver, handle, scope); !r.ok())
+    if (Result r = eventScope(driver, handle, command, scope); !r.ok())
         return r;
 
     EventHub& events = driver.events();
