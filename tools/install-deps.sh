@@ -8,6 +8,7 @@ packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libboost-dev libbenchmark-dev
     iproute2 xvfb xauth fonts-dejavu-core
+    pci.ids usb.ids dbus-daemon
 )
 
 missing=()

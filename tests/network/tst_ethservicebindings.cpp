@@ -1,0 +1,125 @@
+#include "common/driverservicesettings.h"
+#include "network/ethservicebindings.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <unistd.h>
+
+// The binding list in the ETH service's file below a configuration root of the
+// test's own.
+class TestEthServiceBindings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void missingEntryMeansBound();
+    void changesLandInTheDriversFormat();
+    void unwritableFileIsReported_data();
+    void unwritableFileIsReported();
+    void refusesNamesThatAreNoInterfaceNames_data();
+    void refusesNamesThatAreNoInterfaceNames();
+
+private:
+    QString serviceFile() const { return DriverServiceSettings::filePath(QStringLiteral("cirro_eth")); }
+
+    std::unique_ptr<QTemporaryDir> m_root;
+};
+
+void TestEthServiceBindings::init()
+{
+    m_root = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_root->isValid());
+    qputenv("CIRRO_CONFIG_ROOT", m_root->path().toUtf8());
+}
+
+void TestEthServiceBindings::cleanup()
+{
+    qunsetenv("CIRRO_CONFIG_ROOT");
+    m_root.reset();
+}
+
+void TestEthServiceBindings::missingEntryMeansBound()
+{
+    QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
+    QVERIFY(!QFile::exists(serviceFile()));
+
+    QSettings other(serviceFile(), QSettings::IniFormat);
+    other.setValue(QStringLiteral("Bindings/eth1"), false);
+    other.setValue(QStringLiteral("Parameters/DebugEnableMask"), 7);
+    other.sync();
+    QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
+    QVERIFY(!EthServiceBindings::isBound(QStringLiteral("eth1")));
+}
+
+void TestEthServiceBindings::changesLandInTheDriversFormat()
+{
+    QSettings existing(serviceFile(), QSettings::IniFormat);
+    existing.setValue(QStringLiteral("Parameters/DebugEnableMask"), 7);
+    existing.sync();
+
+    QVERIFY(EthServiceBindings::setBound(QStringLiteral("enp3s0"), false).isSuccess());
+    QVERIFY(EthServiceBindings::setBound(QStringLiteral("eth0.100"), false).isSuccess());
+    QVERIFY(EthServiceBindings::setBound(QStringLiteral("eth0.100"), true).isSuccess());
+    QVERIFY(!EthServiceBindings::isBound(QStringLiteral("enp3s0")));
+    QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0.100")));
+
+    QSettings driverView(serviceFile(), QSettings::IniFormat);
+    QCOMPARE(driverView.childGroups(), QStringList({QStringLiteral("Bindings"), QStringLiteral("Parameters")}));
+    QCOMPARE(driverView.value(QStringLiteral("Bindings/enp3s0")), QVariant(QStringLiteral("false")));
+    QCOMPARE(driverView.value(QStringLiteral("Bindings/eth0.100")), QVariant(QStringLiteral("true")));
+    QCOMPARE(driverView.value(QStringLiteral("Parameters/DebugEnableMask")).toInt(), 7);
+}
+
+void TestEthServiceBindings::unwritableFileIsReported_data()
+{
+    QTest::addColumn<bool>("directoryInPlace");
+    // Root writes read-only files; nobody writes into a directory.
+    QTest::newRow("read-only file") << false;
+    QTest::newRow("directory where the file belongs") << true;
+}
+
+void TestEthServiceBindings::unwritableFileIsReported()
+{
+    QFETCH(bool, directoryInPlace);
+    if (directoryInPlace) {
+        QVERIFY(QDir().mkpath(serviceFile()));
+    } else {
+        if (::geteuid() == 0)
+            QSKIP("Root writes read-only files.");
+        QSettings existing(serviceFile(), QSettings::IniFormat);
+        existing.setValue(QStringLiteral("Bindings/eth0"), true);
+        existing.sync();
+        QVERIFY(QFile::setPermissions(serviceFile(), QFile::ReadOwner));
+    }
+    const NetworkResult result = EthServiceBindings::setBound(QStringLiteral("eth0"), false);
+    QCOMPARE(result.code(), int(NetworkResult::NotWritable));
+    QVERIFY(result.message().contains(serviceFile()));
+    QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
+}
+
+void TestEthServiceBindings::refusesNamesThatAreNoInterfaceNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("group separator") << QStringLiteral("Parameters/DebugEnableMask");
+    QTest::newRow("backslash") << QStringLiteral("eth\\0");
+    QTest::newRow("blank") << QStringLiteral("eth 0");
+    QTest::newRow("colon alias") << QStringLiteral("eth0:1");
+    QTest::newRow("sixteen characters") << QStringLiteral("abcdefghijklmnop");
+    QTest::newRow("dot dot") << QStringLiteral("..");
+}
+
+void TestEthServiceBindings::refusesNamesThatAreNoInterfaceNames()
+{
+    QFETCH(QString, name);
+    const NetworkResult result = EthServiceBindings::setBound(name, false);
+    QCOMPARE(result.code(), int(NetworkResult::UnknownInterface));
+    QVERIFY(!QFile::exists(serviceFile()));
+    QVERIFY(EthServiceBindings::isBound(name));
+}
+
+QTEST_GUILESS_MAIN(TestEthServiceBindings)
+#include "tst_ethservicebindings.moc"
