@@ -1,22 +1,11 @@
 #include "operations.h"
+#include "words.h"
 
 #include <cstring>
 
 namespace sim::ops {
 
 namespace {
-
-std::uint32_t readWord(const void* buffer)
-{
-    std::uint32_t value;
-    std::memcpy(&value, buffer, sizeof value);
-    return value;
-}
-
-void writeWord(void* buffer, std::uint32_t value)
-{
-    std::memcpy(buffer, &value, sizeof value);
-}
 
 // Events of a device stay addressable by its device ID after it left, so that
 // a client can still release them; creating one needs the device present.

@@ -1,22 +1,11 @@
 #include "operations.h"
+#include "words.h"
 
 #include <cstring>
 
 namespace sim::ops {
 
 namespace {
-
-std::uint32_t readWord(const void* buffer)
-{
-    std::uint32_t value;
-    std::memcpy(&value, buffer, sizeof value);
-    return value;
-}
-
-void writeWord(void* buffer, std::uint32_t value)
-{
-    std::memcpy(buffer, &value, sizeof value);
-}
 
 Result readBoolWord(const void* buffer, bool& value, const char* what)
 {
