@@ -242,7 +242,8 @@ typedef struct pv_EthDeviceInfo {
     uint16_t adapterPortStream;
     uint8_t adapterMulticastEnabled;
     uint8_t adapterPassiveMulticastEnabled;
-    uint8_t reserved208[8];
+    uint16_t interfaceWord; /* the device variant word, whole */
+    uint8_t reserved210[6];
 } pv_EthDeviceInfo;
 
 /* The 640-byte device-information block read with PV_DEVINFO_READ: a

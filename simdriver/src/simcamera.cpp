@@ -372,6 +372,7 @@ void SimCamera::fillEthPart(pv_EthDeviceInfo& eth, const SimAdapter* adapter, st
         std::memcpy(eth.pairedHostMac, adapter->mac.data(), adapter->mac.size());
     std::memcpy(eth.tempSensorSerial, mac.data(), mac.size());
     eth.housing = 1;
+    eth.interfaceWord = interfaceWord;
     eth.currentIp = toApiWord(currentIp);
     eth.currentMask = toApiWord(currentMask);
     eth.persistentIp = toApiWord(persistentIp);
