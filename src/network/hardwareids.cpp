@@ -2,11 +2,25 @@
 
 #include "network/networklogging.h"
 
+#include <cctype>
+#include <optional>
+
 namespace {
 
 QByteArray hexId(quint16 id)
 {
     return QByteArray::number(id, 16).rightJustified(4, '0');
+}
+
+// "8086  Intel Corporation": four hexadecimal digits and two blanks.
+std::optional<quint16> idAtLineStart(const QByteArray& text, int at)
+{
+    if (at + 6 > text.size() || !std::isxdigit(static_cast<unsigned char>(text.at(at))) || text.at(at + 4) != ' '
+        || text.at(at + 5) != ' ')
+        return std::nullopt;
+    bool ok = false;
+    const uint id = QByteArray::fromRawData(text.constData() + at, 4).toUInt(&ok, 16);
+    return ok ? std::optional<quint16>(quint16(id)) : std::nullopt;
 }
 
 // Start of the first line of text that begins with prefix, or -1.
@@ -50,6 +64,7 @@ HardwareIds::HardwareIds(const QStringList& candidates)
         const uchar* data = m_file.size() > 0 ? m_file.map(0, m_file.size()) : nullptr;
         if (data) {
             m_text = QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(m_file.size()));
+            indexVendors();
             return;
         }
         qCWarning(lcNetwork) << "cannot read hardware id list" << path << m_file.errorString();
@@ -57,14 +72,24 @@ HardwareIds::HardwareIds(const QStringList& candidates)
     }
 }
 
+void HardwareIds::indexVendors()
+{
+    for (int at = 0; at < m_text.size();) {
+        // Classes and other tables follow the vendors in lines of other shapes.
+        if (const std::optional<quint16> vendor = idAtLineStart(m_text, at))
+            m_vendorLines.insert(*vendor, at);
+        const int newline = m_text.indexOf('\n', at);
+        at = newline < 0 ? m_text.size() : newline + 1;
+    }
+}
+
 HardwareIds::Names HardwareIds::lookup(quint16 vendor, quint16 device) const
 {
     Names names;
-    const QByteArray vendorPrefix = hexId(vendor) + "  ";
-    const int vendorLine = lineStarting(m_text, vendorPrefix);
+    const int vendorLine = m_vendorLines.value(vendor, -1);
     if (vendorLine < 0)
         return names;
-    names.vendor = restOfLine(m_text, vendorLine + vendorPrefix.size());
+    names.vendor = restOfLine(m_text, vendorLine + 6);
 
     const QByteArray block = vendorBlock(m_text, vendorLine);
     const QByteArray devicePrefix = '\t' + hexId(device) + "  ";

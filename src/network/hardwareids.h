@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QHash>
 #include <QStringList>
 
 // Vendor and product names from a hardware id list in the pci.ids / usb.ids
@@ -26,7 +27,12 @@ public:
     Names lookup(quint16 vendor, quint16 device) const;
 
 private:
+    void indexVendors();
+
     QFile m_file;
     // Views the mapped file without copying it.
     QByteArray m_text;
+    // Where each vendor's line starts; one pass on opening saves a search
+    // through the whole list on every lookup.
+    QHash<quint16, int> m_vendorLines;
 };
