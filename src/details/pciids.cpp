@@ -31,7 +31,7 @@ PciIds::PciIds(const QString& path, const QSet<quint16>& vendors)
     : m_wanted(vendors)
 {
     QFile file(path);
-    if (m_wanted.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (path.isEmpty() || m_wanted.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
     QTextStream stream(&file);
     int vendor = noVendor;

@@ -9,6 +9,18 @@ namespace {
 // The kernel never hands out more than a page per attribute.
 constexpr qint64 maxAttributeSize = 4096;
 
+// Applies a QString::toInt-style conversion; no value when it fails.
+template<typename Convert>
+auto parsed(const std::optional<QString>& text, Convert convert)
+    -> std::optional<decltype(convert(QString(), nullptr))>
+{
+    if (!text)
+        return std::nullopt;
+    bool ok = false;
+    const auto value = convert(*text, &ok);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
 } // namespace
 
 SysfsNode::SysfsNode(QString path)
@@ -39,35 +51,28 @@ std::optional<QString> SysfsNode::text(const QString& attribute) const
 
 std::optional<uint> SysfsNode::hex(const QString& attribute) const
 {
-    std::optional<QString> value = text(attribute);
-    if (!value)
-        return std::nullopt;
-    if (value->startsWith(QLatin1String("0x"), Qt::CaseInsensitive))
-        value->remove(0, 2);
-    bool ok = false;
-    const uint number = value->toUInt(&ok, 16);
-    return ok ? std::optional<uint>(number) : std::nullopt;
+    return parsed(text(attribute), [](QString value, bool* ok) {
+        if (value.startsWith(QLatin1String("0x"), Qt::CaseInsensitive))
+            value.remove(0, 2);
+        return value.toUInt(ok, 16);
+    });
 }
 
 std::optional<int> SysfsNode::decimal(const QString& attribute) const
 {
-    const std::optional<QString> value = text(attribute);
-    bool ok = false;
-    const int number = value ? value->toInt(&ok) : 0;
-    return ok ? std::optional<int>(number) : std::nullopt;
+    return parsed(text(attribute), [](const QString& value, bool* ok) { return value.toInt(ok); });
 }
 
 std::optional<double> SysfsNode::number(const QString& attribute) const
 {
-    const std::optional<QString> value = text(attribute);
-    bool ok = false;
-    const double number = value ? value->toDouble(&ok) : 0;
-    return ok ? std::optional<double>(number) : std::nullopt;
+    return parsed(text(attribute), [](const QString& value, bool* ok) { return value.toDouble(ok); });
 }
 
 std::optional<SysfsNode> SysfsNode::follow(const QString& link) const
 {
-    const QString target = QFileInfo(m_path + QLatin1Char('/') + link).canonicalFilePath();
+    // One readlink; resolving every component as canonicalFilePath() does
+    // costs a multiple of that on deep sysfs paths.
+    const QString target = QFileInfo(m_path + QLatin1Char('/') + link).symLinkTarget();
     if (target.isEmpty() || !QFileInfo(target).isDir())
         return std::nullopt;
     return SysfsNode(target);

@@ -129,7 +129,8 @@ private:
     Topology::HostController controller(const SysfsNode& node, const RootHubs& rootHubs,
                                         const std::optional<PciFunction>& pci,
                                         const PciIds& names) const;
-    Topology::Hub hub(const SysfsNode& node, Topology::NodeKind kind, QString description) const;
+    Topology::Hub hub(const SysfsNode& node, Topology::NodeKind kind, QString description,
+                      int ports) const;
     std::unique_ptr<const Topology::Device> device(const SysfsNode& node) const;
     int portCount(const SysfsNode& node) const;
 
@@ -152,10 +153,11 @@ void SysfsWalk::index(const QDir& usbDevices)
 {
     // Dangling links are not listed as directories, so they drop out here.
     for (const QString& name : usbDevices.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const SysfsNode node(usbDevices.filePath(name));
+        // The device's own directory, so that its relative links resolve.
+        const QFileInfo entry(usbDevices.filePath(name));
+        const SysfsNode node(entry.isSymLink() ? entry.symLinkTarget() : entry.filePath());
         if (const std::optional<int> bus = rootHubBus(name)) {
-            const QString target = QFileInfo(node.path()).canonicalFilePath();
-            m_rootHubs[QFileInfo(target).path()].emplace(*bus, node);
+            m_rootHubs[QFileInfo(node.path()).path()].emplace(*bus, node);
         } else if (const std::optional<Place> place = placeOf(name)) {
             m_children[place->hub].emplace(place->port, node);
         }
@@ -188,9 +190,9 @@ Topology::HostController SysfsWalk::controller(const SysfsNode& node, const Root
     Topology::HostController controller;
     controller.name = node.name();
     controller.driver = driverInfo(node, m_root.child(QStringLiteral("module")));
-    for (const auto& entry : rootHubs)
-        controller.rootHubs.push_back(
-            hub(entry.second, Topology::NodeKind::RootHub, rootHubDescription(entry.second)));
+    for (const auto& [bus, rootHub] : rootHubs)
+        controller.rootHubs.push_back(hub(rootHub, Topology::NodeKind::RootHub,
+                                          rootHubDescription(rootHub), portCount(rootHub)));
     if (!pci) {
         // Not a PCI function (a virtual or on-chip controller): the kernel
         // names it in its root hub's product string.
@@ -207,13 +209,12 @@ Topology::HostController SysfsWalk::controller(const SysfsNode& node, const Root
 }
 
 Topology::Hub SysfsWalk::hub(const SysfsNode& node, Topology::NodeKind kind,
-                             QString description) const
+                             QString description, int ports) const
 {
     Topology::Hub hub{kind, node.name(), std::move(description), {}};
     const auto children = m_children.find(hub.name);
-    const int count = portCount(node);
-    hub.ports.resize(count);
-    for (int number = 1; number <= count; ++number) {
+    hub.ports.resize(ports);
+    for (int number = 1; number <= ports; ++number) {
         Topology::Port& port = hub.ports[number - 1];
         port.number = number;
         if (children == m_children.end())
@@ -256,9 +257,10 @@ std::unique_ptr<const Topology::Device> SysfsWalk::device(const SysfsNode& node)
             device->driverKey);
     else
         qCDebug(lcUsbTopology) << "no vendor and product id in" << node.path();
-    if (portCount(node) > 0 || node.hex(QStringLiteral("bDeviceClass")) == hubDeviceClass)
+    const int ports = portCount(node);
+    if (ports > 0 || node.hex(QStringLiteral("bDeviceClass")) == hubDeviceClass)
         device->hub = std::make_unique<const Topology::Hub>(
-            hub(node, Topology::NodeKind::ExternalHub, device->description));
+            hub(node, Topology::NodeKind::ExternalHub, device->description, ports));
     return device;
 }
 
