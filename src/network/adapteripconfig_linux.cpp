@@ -60,8 +60,8 @@ NetworkResult AdapterIpConfig::applyStatic(const QString& interfaceName, const Q
     }
     if (error == ENODEV)
         return NetworkResult::unknownInterface(interfaceName);
-    return {NetworkResult::SystemCallFailed,
-            tr("Setting the address of %1 failed: %2").arg(interfaceName, QString::fromLocal8Bit(std::strerror(error)))};
+    return {NetworkResult::SystemCallFailed, tr("Setting the address of %1 failed: %2")
+                                                 .arg(interfaceName, QString::fromLocal8Bit(std::strerror(error)))};
 }
 
 NetworkResult AdapterIpConfig::applyDhcp(const QString& interfaceName)

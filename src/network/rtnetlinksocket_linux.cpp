@@ -39,7 +39,8 @@ quint32 netmask(int prefixLength)
 bool readAddress(const ifaddrmsg* message, std::size_t length, quint32* address)
 {
     bool found = false;
-    auto* attribute = reinterpret_cast<const rtattr*>(reinterpret_cast<const char*>(message) + NLMSG_ALIGN(sizeof *message));
+    const char* attributes = reinterpret_cast<const char*>(message) + NLMSG_ALIGN(sizeof *message);
+    auto* attribute = reinterpret_cast<const rtattr*>(attributes);
     auto remaining = static_cast<unsigned int>(length - NLMSG_ALIGN(sizeof *message));
     for (; RTA_OK(attribute, remaining); attribute = RTA_NEXT(attribute, remaining)) {
         if ((attribute->rta_type == IFA_LOCAL || (attribute->rta_type == IFA_ADDRESS && !found))
