@@ -11,16 +11,6 @@
 
 namespace {
 
-std::optional<NetworkManagerClient> managerOf(const QString& interfaceName)
-{
-    if (!NetworkManagerClient::managesThisNetworkNamespace())
-        return std::nullopt;
-    NetworkManagerClient manager(QDBusConnection::systemBus());
-    if (!manager.managesInterface(interfaceName))
-        return std::nullopt;
-    return manager;
-}
-
 // Adds the wanted address before removing the others, so that the interface
 // is never left without one.
 int replaceIpv4Addresses(int interfaceIndex, const RtnetlinkSocket::Ipv4Address& wanted)
@@ -45,7 +35,7 @@ int replaceIpv4Addresses(int interfaceIndex, const RtnetlinkSocket::Ipv4Address&
 NetworkResult AdapterIpConfig::applyStatic(const QString& interfaceName, const QHostAddress& address,
                                            int prefixLength)
 {
-    if (const std::optional<NetworkManagerClient> manager = managerOf(interfaceName))
+    if (const std::optional<NetworkManagerClient> manager = NetworkManagerClient::managing(interfaceName))
         return manager->setStaticIpv4(interfaceName, address, prefixLength);
 
     const int index = int(::if_nametoindex(interfaceName.toUtf8().constData()));
@@ -66,7 +56,7 @@ NetworkResult AdapterIpConfig::applyStatic(const QString& interfaceName, const Q
 
 NetworkResult AdapterIpConfig::applyDhcp(const QString& interfaceName)
 {
-    if (const std::optional<NetworkManagerClient> manager = managerOf(interfaceName))
+    if (const std::optional<NetworkManagerClient> manager = NetworkManagerClient::managing(interfaceName))
         return manager->enableDhcp(interfaceName);
     return {NetworkResult::NotSupported,
             tr("Switching %1 to DHCP is not supported without NetworkManager.").arg(interfaceName)};

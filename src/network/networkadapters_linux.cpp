@@ -22,7 +22,6 @@ AdapterDriverInfo getAdapterDriverInfo(const QString& interfaceName)
 
 std::optional<bool> managedDhcpState(const QString& interfaceName)
 {
-    if (!NetworkManagerClient::managesThisNetworkNamespace())
-        return std::nullopt;
-    return NetworkManagerClient(QDBusConnection::systemBus()).dhcpEnabled(interfaceName);
+    const std::optional<NetworkManagerClient> manager = NetworkManagerClient::managing(interfaceName);
+    return manager ? manager->dhcpEnabled(interfaceName) : std::nullopt;
 }

@@ -7,6 +7,8 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QDir>
+#include <QFile>
 
 #include <sys/stat.h>
 
@@ -19,6 +21,11 @@ const QString activeConnectionInterface = QStringLiteral("org.freedesktop.Networ
 const QString settingsConnectionInterface = QStringLiteral("org.freedesktop.NetworkManager.Settings.Connection");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 constexpr int callTimeoutMs = 10000;
+
+bool isSameFile(const struct stat& first, const struct stat& second)
+{
+    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
 
 void registerTypes()
 {
@@ -56,15 +63,33 @@ NetworkManagerClient::NetworkManagerClient(const QDBusConnection& bus)
     registerTypes();
 }
 
-bool NetworkManagerClient::managesThisNetworkNamespace()
+std::optional<NetworkManagerClient> NetworkManagerClient::managing(const QString& interfaceName)
 {
-    // Without the right to look at init's namespace there is no way to tell;
-    // such a process cannot have entered a namespace of its own either.
-    struct stat init{};
+    if (!inInitialNetworkNamespace())
+        return std::nullopt;
+    NetworkManagerClient manager(QDBusConnection::systemBus());
+    if (!manager.managesInterface(interfaceName))
+        return std::nullopt;
+    return manager;
+}
+
+bool NetworkManagerClient::inInitialNetworkNamespace()
+{
     struct stat self{};
-    if (::stat("/proc/1/ns/net", &init) != 0)
+    if (::stat("/proc/self/ns/net", &self) != 0)
         return true;
-    return ::stat("/proc/self/ns/net", &self) == 0 && init.st_dev == self.st_dev && init.st_ino == self.st_ino;
+    struct stat init{};
+    if (::stat("/proc/1/ns/net", &init) == 0)
+        return isSameFile(init, self);
+    // Where init's namespace can't be looked at, one made by "ip netns" is
+    // still known by its name.
+    const QDir named(QStringLiteral("/run/netns"));
+    for (const QString& name : named.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+        struct stat other{};
+        if (::stat(QFile::encodeName(named.filePath(name)).constData(), &other) == 0 && isSameFile(other, self))
+            return false;
+    }
+    return true;
 }
 
 bool NetworkManagerClient::isRunning() const

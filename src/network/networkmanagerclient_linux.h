@@ -24,9 +24,10 @@ public:
 
     explicit NetworkManagerClient(const QDBusConnection& bus);
 
-    // NetworkManager manages the initial network namespace only; a process in
-    // another one must not change what it sees under the same names.
-    static bool managesThisNetworkNamespace();
+    // The system's NetworkManager when it manages the interface; nothing when
+    // it does not run, or when this process is in another network namespace
+    // than the one NetworkManager manages.
+    static std::optional<NetworkManagerClient> managing(const QString& interfaceName);
 
     bool isRunning() const;
     // NetworkManager runs and has an active connection on the interface.
@@ -39,6 +40,7 @@ public:
     NetworkResult enableDhcp(const QString& interfaceName) const;
 
 private:
+    static bool inInitialNetworkNamespace();
     QString devicePath(const QString& interfaceName) const;
     // An object path property; empty for "/" and on failure.
     QString pathProperty(const QString& objectPath, const QString& interface, const QString& name) const;
