@@ -116,7 +116,8 @@ Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, voi
 Result configuration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size)
 {
     for (const ConfigWord& word : configWords) {
-        if (command != word.readCommand && command != word.writeCommand)
+        // A read-only word has write command 0, which must not match command 0.
+        if (command != word.readCommand && (word.writeCommand == 0 || command != word.writeCommand))
             continue;
         if (Result r = checkBuffer(buffer, size, 4, "pv_Configuration"); !r.ok())
             return r;

@@ -44,6 +44,18 @@ Result Fleet::unplug(std::uint32_t deviceId)
     return success();
 }
 
+Result Fleet::applyChange(SimCamera& camera, const QJsonObject& changes)
+{
+    SimCamera changed = camera;
+    if (Result r = changed.applyChange(changes); !r.ok())
+        return r;
+    if (changed.kind == CameraKind::Eth && !adapter(changed.adapterName))
+        return failure(PV_ERR_UNKNOWN_ADAPTER, "camera " + changed.serial + ": no adapter named \""
+                                                   + changed.adapterName + "\"");
+    camera = std::move(changed);
+    return success();
+}
+
 Result Fleet::addAdapter(SimAdapter newAdapter)
 {
     if (adapter(newAdapter.name))

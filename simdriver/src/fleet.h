@@ -31,6 +31,8 @@ public:
     // one, checks it against the fleet and adds it.
     Result plug(SimCamera camera, std::uint32_t* deviceId = nullptr);
     Result unplug(std::uint32_t deviceId);
+    // Applies changes to a connected camera; a GigE camera keeps an adapter that exists.
+    Result applyChange(SimCamera& camera, const QJsonObject& changes);
     Result addAdapter(SimAdapter adapter);
 
     // Cameras the driver currently reports, in device ID order.

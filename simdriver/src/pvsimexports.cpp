@@ -93,7 +93,7 @@ int32_t PV_CALL pvsim_ChangeCamera(uint32_t deviceId, const char* changesJson)
             sim::SimCamera* camera = fleet.any(deviceId);
             if (!camera)
                 return failure(PV_ERR_UNKNOWN_DEVICE, "no camera with device ID " + std::to_string(deviceId));
-            return camera->applyChange(changes);
+            return fleet.applyChange(*camera, changes);
         });
     });
 }

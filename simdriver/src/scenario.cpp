@@ -100,6 +100,10 @@ Result Scenario::fromJson(const QByteArray& json, Scenario& scenario)
     reader.take("description");
     if (Result r = reader.finish(); !r.ok())
         return r;
+    for (const auto& [key, value] : {std::pair{"driver", driver}, std::pair{"services", services}}) {
+        if (!value.isUndefined() && !value.isObject())
+            return failure(PV_ERR_INVALID_PARAMETER, std::string("scenario: \"") + key + "\" must be an object");
+    }
 
     if (Result r = scenario.fleet.settings.apply(driver.toObject()); !r.ok())
         return r;

@@ -64,6 +64,8 @@ Result SimDriver::load(Scenario scenario)
 
 void SimDriver::readConfiguration(Fleet& fleet) const
 {
+    // A value removed from the files is gone for the driver too.
+    fleet.settings.registry.clear();
     for (const char* service : {DriverServiceSettings::usbService, DriverServiceSettings::ethService}) {
         const auto settings = DriverServiceSettings::open(QLatin1String(service));
         for (const QString& key : settings->allKeys()) {
@@ -134,7 +136,7 @@ void SimDriver::runTimelineEvent(const TimelineEvent& event)
             return failure(PV_ERR_UNKNOWN_DEVICE, "timeline: no camera with serial " + event.serial);
         if (event.action == TimelineEvent::Action::Unplug)
             return fleet.unplug(camera->deviceId);
-        return camera->applyChange(event.camera);
+        return fleet.applyChange(*camera, event.camera);
     });
     if (!result.ok())
         qCWarning(lcSimDriver, "%s", result.text.c_str());
