@@ -1,0 +1,554 @@
+// The simulated driver's virtual GigE network: IP configuration of cameras and
+// adapter ranges, multicast, read-only devices, adapter settings, the ETH
+// service and its adapter bindings, and how each change shows in the cameras.
+#include "simdriverfixture.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <array>
+#include <set>
+
+using namespace SimDriverFixture;
+
+namespace {
+
+constexpr std::uint32_t gigeCamera = 1000;     // reachable, persistent IP, on simnet0
+constexpr std::uint32_t unconfigured = 1001;   // persistent IP of another subnet, DHCP on
+constexpr std::uint32_t bootBoosted = 1004;    // its camera ID is on the boot boost list
+constexpr std::uint32_t bystander = 1005;      // on simnet1
+constexpr std::uint32_t noJumboCamera = 1006;  // on simnet2, which lacks 2k packets
+constexpr std::uint32_t rangeCamera = 1007;    // no persistent IP, on simnet0
+constexpr std::uint32_t readOnlyDevice = 1500;
+
+using Octets = std::array<std::uint8_t, 4>;
+
+pv_IpBlock ipBlock(Octets first, Octets second, std::uint32_t extra = 0)
+{
+    pv_IpBlock block{};
+    std::memcpy(block.first, first.data(), 4);
+    std::memcpy(block.second, second.data(), 4);
+    block.extra = extra;
+    return block;
+}
+
+// The device information's form: first octet in the lowest byte.
+std::uint32_t infoWord(Octets ip)
+{
+    return ip[0] | (ip[1] << 8) | (ip[2] << 16) | (std::uint32_t(ip[3]) << 24);
+}
+
+// Host order, for comparisons: first octet in the top byte.
+std::uint32_t hostOrder(const std::uint8_t* networkBytes)
+{
+    return (std::uint32_t(networkBytes[0]) << 24) | (networkBytes[1] << 16) | (networkBytes[2] << 8) | networkBytes[3];
+}
+
+std::uint32_t hostOrderOfInfoWord(std::uint32_t word)
+{
+    const std::uint8_t bytes[4] = {std::uint8_t(word), std::uint8_t(word >> 8), std::uint8_t(word >> 16),
+                                   std::uint8_t(word >> 24)};
+    return hostOrder(bytes);
+}
+
+bool sameBlock(const pv_IpBlock& a, const pv_IpBlock& b)
+{
+    return std::memcmp(a.first, b.first, 4) == 0 && std::memcmp(a.second, b.second, 4) == 0;
+}
+
+pv_AdapterId adapterNamed(const char* name)
+{
+    pv_AdapterId id{};
+    qstrncpy(id.interfaceName, name, sizeof id.interfaceName);
+    return id;
+}
+
+std::set<std::uint32_t> listedIds()
+{
+    std::set<std::uint32_t> ids;
+    for (const pv_CameraListEntry& entry : list())
+        ids.insert(entry.deviceId);
+    return ids;
+}
+
+bool isEthernetId(std::uint32_t id)
+{
+    return id >= PV_ETH_DEVICE_FIRST && id < PV_SDK_DEVICE_FIRST;
+}
+
+std::int32_t ethDeviceCount()
+{
+    std::uint32_t count = 0;
+    const std::int32_t r = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_GET_DEVICE_COUNT, &count, sizeof count);
+    return r == PV_OK ? std::int32_t(count) : -r;
+}
+
+void writeIni(const QString& path, const QString& key, const QVariant& value)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    settings.setValue(key, value);
+    settings.sync();
+}
+
+} // namespace
+
+class TestSimEthernet : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void persistentIpRoundTrip_data();
+    void persistentIpRoundTrip();
+    void emptyPersistentIpTakesAnAddressFromTheRange();
+    void bootBoostedCameraKeepsItsAddress();
+    void dhcpAndCapabilities();
+    void changeSignalsTheDriverAndTheCamera();
+    void multicastAddress_data();
+    void multicastAddress();
+    void multicastEnable();
+    void readOnlyDevices();
+    void readOnlyMulticastSwitch();
+    void adapterJumboPacketsAndFilter();
+    void adapterFramesTooSmallForJumboPackets();
+    void stoppedServiceHidesGigE();
+    void unboundAdapterHidesItsCameras();
+
+private:
+    QTemporaryDir m_emptyConfig; // keeps the host's driver configuration out
+};
+
+void TestSimEthernet::initTestCase()
+{
+    QVERIFY(m_emptyConfig.isValid());
+}
+
+void TestSimEthernet::init()
+{
+    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+    QVERIFY(reset());
+}
+
+void TestSimEthernet::cleanup()
+{
+    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+}
+
+void TestSimEthernet::persistentIpRoundTrip_data()
+{
+    QTest::addColumn<bool>("byMac");
+
+    QTest::newRow("set by device ID") << false;
+    QTest::newRow("set by camera MAC") << true;
+}
+
+void TestSimEthernet::persistentIpRoundTrip()
+{
+    QFETCH(bool, byMac);
+    const pv_DeviceInformation before = deviceInfo(unconfigured);
+    QVERIFY(!(before.deviceControlStatus & PV_CONTROL_AVAILABLE));
+    const std::uint8_t* mac = before.u.eth.macAddress;
+
+    pv_IpBlock block = ipBlock({192, 168, 50, 77}, {255, 255, 255, 0});
+    QCOMPARE(pv_IpConfig(byMac ? PV_ADDRESS_BY_MAC : std::int32_t(unconfigured), byMac ? mac : nullptr,
+                         PV_IPCFG_SET_PERSISTENT, &block, sizeof block),
+             PV_OK);
+    // Read back through the other way of addressing the camera.
+    pv_IpBlock read{};
+    QCOMPARE(pv_IpConfig(byMac ? std::int32_t(unconfigured) : PV_ADDRESS_BY_MAC, byMac ? nullptr : mac,
+                         PV_IPCFG_GET_PERSISTENT, &read, sizeof read),
+             PV_OK);
+    QVERIFY(sameBlock(read, block));
+
+    const pv_DeviceInformation after = deviceInfo(unconfigured);
+    QCOMPARE(after.u.eth.persistentIp, infoWord({192, 168, 50, 77}));
+    QCOMPARE(after.u.eth.persistentMask, infoWord({255, 255, 255, 0}));
+    QCOMPARE(after.u.eth.currentIp, infoWord({192, 168, 50, 77}));
+    QVERIFY(after.deviceControlStatus & PV_CONTROL_PERSISTENT_IP_USED);
+    QVERIFY(after.deviceControlStatus & PV_CONTROL_AVAILABLE);
+    QVERIFY(after.deviceStatus & PV_STATUS_READY);
+    QVERIFY(!(after.deviceStatus & PV_STATUS_PERSISTENT_IP_NOT_APPLICABLE));
+}
+
+void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
+{
+    const pv_DeviceInformation camera = deviceInfo(gigeCamera);
+    const std::uint8_t* adapterMac = camera.u.eth.adapterMac;
+    pv_IpBlock range{};
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_GET_RANGE, &range, sizeof range), PV_OK);
+    QCOMPARE(range.extra, 100u);
+    QVERIFY(camera.u.eth.adapterRangeValid);
+
+    // As the automatic configuration does it: clear the address, by camera MAC.
+    pv_IpBlock none{};
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, camera.u.eth.macAddress, PV_IPCFG_SET_PERSISTENT, &none, sizeof none),
+             PV_OK);
+    pv_DeviceInformation info = deviceInfo(gigeCamera);
+    const std::uint32_t current = hostOrderOfInfoWord(info.u.eth.currentIp);
+    QVERIFY(current >= hostOrder(range.first) && current <= hostOrder(range.second));
+    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_PERSISTENT_IP_USED));
+    QVERIFY(info.deviceControlStatus & PV_CONTROL_AVAILABLE);
+
+    // No two cameras of the adapter end up with the same address.
+    std::set<std::uint32_t> addresses{info.u.eth.adapterIp};
+    int withAddress = 1;
+    for (std::uint32_t id : listedIds()) {
+        const pv_DeviceInformation other = deviceInfo(id);
+        if (id >= PV_READONLY_DEVICE_FIRST || id < PV_ETH_DEVICE_FIRST || other.u.eth.currentIp == 0
+            || qstrcmp(other.u.eth.adapterName, camera.u.eth.adapterName) != 0)
+            continue;
+        addresses.insert(other.u.eth.currentIp);
+        ++withAddress;
+    }
+    QCOMPARE(int(addresses.size()), withAddress);
+
+    // A new range moves the cameras without persistent address into it.
+    pv_IpBlock narrow = ipBlock({192, 168, 50, 20}, {192, 168, 50, 29}, 100);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_SET_RANGE, &narrow, sizeof narrow), PV_OK);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_GET_RANGE, &range, sizeof range), PV_OK);
+    QVERIFY(sameBlock(range, narrow));
+    for (std::uint32_t id : {gigeCamera, rangeCamera}) {
+        const std::uint32_t ip = hostOrderOfInfoWord(deviceInfo(id).u.eth.currentIp);
+        QVERIFY(ip >= hostOrder(narrow.first) && ip <= hostOrder(narrow.second));
+    }
+
+    // A range outside the adapter's subnet gives no address at all.
+    pv_IpBlock outside = ipBlock({10, 0, 0, 1}, {10, 0, 0, 9}, 100);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_SET_RANGE, &outside, sizeof outside), PV_OK);
+    info = deviceInfo(gigeCamera);
+    QCOMPARE(info.u.eth.currentIp, 0u);
+    QVERIFY(!info.u.eth.adapterRangeValid);
+    QVERIFY(info.deviceStatus & PV_STATUS_IP_RANGE_NOT_APPLICABLE);
+    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_AVAILABLE));
+
+    pv_IpBlock reversed = ipBlock({192, 168, 50, 30}, {192, 168, 50, 20}, 100);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_SET_RANGE, &reversed, sizeof reversed),
+             PV_ERR_INVALID_PARAMETER);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_GET_RANGE, &range, sizeof range), PV_OK);
+    QVERIFY(sameBlock(range, outside));
+}
+
+void TestSimEthernet::bootBoostedCameraKeepsItsAddress()
+{
+    const pv_DeviceInformation before = deviceInfo(bootBoosted);
+    QVERIFY(before.deviceControlStatus & PV_CONTROL_BOOT_BOOST_USED);
+    pv_IpBlock block = ipBlock({192, 168, 50, 88}, {255, 255, 255, 0});
+    QCOMPARE(pv_IpConfig(std::int32_t(bootBoosted), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block),
+             PV_ERR_BOOT_BOOST_ACTIVE);
+    QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, before.u.eth.macAddress, PV_IPCFG_SET_PERSISTENT, &block, sizeof block),
+             PV_ERR_BOOT_BOOST_ACTIVE);
+    QVERIFY(!lastErrorText().isEmpty());
+    QCOMPARE(deviceInfo(bootBoosted).u.eth.persistentIp, before.u.eth.persistentIp);
+
+    QCOMPARE(pv_BootBoost(PV_DRIVER_HANDLE, PV_BOOTBOOST_DISABLE, nullptr, 0), PV_OK);
+    QCOMPARE(pv_IpConfig(std::int32_t(bootBoosted), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block), PV_OK);
+    QCOMPARE(deviceInfo(bootBoosted).u.eth.currentIp, infoWord({192, 168, 50, 88}));
+}
+
+void TestSimEthernet::dhcpAndCapabilities()
+{
+    // Without an address the DHCP client waits; nothing answers it.
+    std::uint32_t word = 0;
+    QCOMPARE(pv_IpConfig(std::int32_t(unconfigured), nullptr, PV_IPCFG_GET_DHCP, &word, sizeof word), PV_OK);
+    QCOMPARE(word, 1u);
+    pv_DeviceInformation info = deviceInfo(unconfigured);
+    QVERIFY(info.u.eth.dhcpState & PV_DHCP_ENABLED);
+    QVERIFY(info.u.eth.dhcpState & PV_DHCP_WAITING_FOR_OFFER);
+    QVERIFY(!(info.deviceStatus & PV_STATUS_READY));
+
+    word = 0;
+    QCOMPARE(pv_IpConfig(std::int32_t(unconfigured), nullptr, PV_IPCFG_SET_DHCP, &word, sizeof word), PV_OK);
+    QCOMPARE(pv_IpConfig(std::int32_t(unconfigured), nullptr, PV_IPCFG_GET_DHCP, &word, sizeof word), PV_OK);
+    QCOMPARE(word, 0u);
+    info = deviceInfo(unconfigured);
+    QVERIFY(!(info.u.eth.dhcpState & (PV_DHCP_ENABLED | PV_DHCP_WAITING_FOR_OFFER)));
+    QVERIFY(info.deviceStatus & PV_STATUS_READY);
+
+    // A camera that can only take a persistent address refuses the rest.
+    std::uint32_t id = 0;
+    QCOMPARE(pvsim_PlugCamera(R"({"kind": "eth", "adapter": "simnet0", "mac": "00:1c:c1:00:02:01",
+                                  "ipCapabilities": 1})",
+                              &id),
+             PV_OK);
+    QCOMPARE(pv_IpConfig(std::int32_t(id), nullptr, PV_IPCFG_CAPABILITIES, &word, sizeof word), PV_OK);
+    QCOMPARE(word, std::uint32_t(PV_IPCAP_PERSISTENT));
+    word = 1;
+    QCOMPARE(pv_IpConfig(std::int32_t(id), nullptr, PV_IPCFG_SET_DHCP, &word, sizeof word), PV_ERR_NOT_SUPPORTED);
+    QCOMPARE(pv_IpConfig(std::int32_t(id), nullptr, PV_IPCFG_GET_DHCP, &word, sizeof word), PV_OK);
+    QCOMPARE(word, 0u);
+    pv_IpBlock block = ipBlock({192, 168, 50, 91}, {255, 255, 255, 0});
+    QCOMPARE(pv_IpConfig(std::int32_t(id), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block), PV_OK);
+}
+
+void TestSimEthernet::changeSignalsTheDriverAndTheCamera()
+{
+    Event global(PV_DRIVER_HANDLE, PV_EVENT_DEVICE_CHANGED);
+    Event own(gigeCamera | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    Event other(bystander | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    QVERIFY(global.ok() && own.ok() && other.ok());
+
+    // Writing what the camera already has changes nothing anyone can see.
+    pv_IpBlock block{};
+    QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block), PV_OK);
+    QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block), PV_OK);
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_CHANGED}, 100), PV_ERR_TIMEOUT);
+
+    block = ipBlock({192, 168, 50, 60}, {255, 255, 255, 0});
+    QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block), PV_OK);
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_CHANGED}, 2000), PV_OK);
+    QCOMPARE(wait(gigeCamera | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 2000), PV_OK);
+    QCOMPARE(wait(bystander | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 100), PV_ERR_TIMEOUT);
+}
+
+void TestSimEthernet::multicastAddress_data()
+{
+    QTest::addColumn<QByteArray>("address");
+    QTest::addColumn<std::int32_t>("code");
+
+    QTest::newRow("multicast group") << QByteArray("\xef\x02\x03\x04", 4) << std::int32_t(PV_OK);
+    QTest::newRow("lowest group") << QByteArray("\xe0\x00\x00\x00", 4) << std::int32_t(PV_OK);
+    QTest::newRow("none") << QByteArray(4, '\0') << std::int32_t(PV_OK);
+    QTest::newRow("unicast") << QByteArray("\xc0\xa8\x32\x09", 4) << std::int32_t(PV_ERR_INVALID_PARAMETER);
+    QTest::newRow("reserved above multicast") << QByteArray("\xf0\x00\x00\x01", 4)
+                                              << std::int32_t(PV_ERR_INVALID_PARAMETER);
+    QTest::newRow("byte order swapped") << QByteArray("\x04\x03\x02\xef", 4)
+                                        << std::int32_t(PV_ERR_INVALID_PARAMETER);
+}
+
+void TestSimEthernet::multicastAddress()
+{
+    QFETCH(QByteArray, address);
+    QFETCH(std::int32_t, code);
+
+    const std::uint32_t before = deviceInfo(gigeCamera).u.eth.multicastIp;
+    QCOMPARE(pv_EthConfig(gigeCamera | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_IP, address.data(), 4), code);
+    const auto* octets = reinterpret_cast<const std::uint8_t*>(address.constData());
+    const std::uint32_t expected = code == PV_OK ? infoWord({octets[0], octets[1], octets[2], octets[3]}) : before;
+    QCOMPARE(deviceInfo(gigeCamera).u.eth.multicastIp, expected);
+}
+
+void TestSimEthernet::multicastEnable()
+{
+    std::uint32_t on = 1, off = 0;
+    QCOMPARE(pv_EthConfig(gigeCamera | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_ENABLE, &on, 4), PV_OK);
+    QVERIFY(deviceInfo(gigeCamera).deviceStatus & PV_STATUS_MULTICAST_ENABLED);
+    QCOMPARE(pv_EthConfig(gigeCamera | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_ENABLE, &off, 4), PV_OK);
+    QVERIFY(!(deviceInfo(gigeCamera).deviceStatus & PV_STATUS_MULTICAST_ENABLED));
+
+    // Neither a passive receiver nor a camera without multicast can take it.
+    QCOMPARE(pv_EthConfig(readOnlyDevice | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_ENABLE, &on, 4),
+             PV_ERR_NOT_SUPPORTED);
+    std::uint32_t id = 0;
+    QCOMPARE(pvsim_PlugCamera(R"({"kind": "eth", "adapter": "simnet0", "mac": "00:1c:c1:00:02:02",
+                                  "multicastCapability": 0})",
+                              &id),
+             PV_OK);
+    QCOMPARE(pv_EthConfig(id | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_ENABLE, &on, 4), PV_ERR_NOT_SUPPORTED);
+    QVERIFY(!(deviceInfo(id).deviceStatus & PV_STATUS_MULTICAST_ENABLED));
+}
+
+void TestSimEthernet::readOnlyDevices()
+{
+    const auto fleet = list();
+    const pv_CameraListEntry source =
+        *std::find_if(fleet.begin(), fleet.end(), [](const auto& e) { return e.deviceId == gigeCamera; });
+    const pv_DeviceInformation sourceInfo = deviceInfo(gigeCamera);
+    pv_ReadOnlyRequest request{};
+    std::memcpy(request.multicastIp, &sourceInfo.u.eth.multicastIp, 4); // first octet lowest = network order
+    std::memcpy(request.sourceIp, &sourceInfo.u.eth.currentIp, 4);
+    request.cameraId = 42;
+    request.mode = 2;
+
+    const std::set<std::uint32_t> before = listedIds();
+    const std::int32_t ethBefore = ethDeviceCount();
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_ADD_READONLY, &request, sizeof request), PV_OK);
+    QCOMPARE(listedIds(), before); // not before the service applies it
+
+    Event arrived(PV_DRIVER_HANDLE, PV_EVENT_DEVICE_ARRIVED);
+    QVERIFY(arrived.ok());
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_OK);
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_ARRIVED}, 2000), PV_OK);
+    std::set<std::uint32_t> added;
+    const std::set<std::uint32_t> now = listedIds();
+    std::set_difference(now.begin(), now.end(), before.begin(), before.end(), std::inserter(added, added.end()));
+    QCOMPARE(int(added.size()), 1);
+    const std::uint32_t id = *added.begin();
+    QVERIFY(id >= PV_READONLY_DEVICE_FIRST && id < PV_SDK_DEVICE_FIRST);
+    QCOMPARE(ethDeviceCount(), ethBefore + 1);
+    const auto entries = list();
+    const auto device = std::find_if(entries.begin(), entries.end(), [&](const auto& e) { return e.deviceId == id; });
+    QCOMPARE(device->cameraId, 42u);
+    QCOMPARE(QByteArray(device->model), QByteArray(source.model));
+    QCOMPARE(deviceInfo(id).u.eth.multicastIp, sourceInfo.u.eth.multicastIp);
+
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request), PV_OK);
+    QVERIFY(listedIds().count(id));
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_OK);
+    QCOMPARE(listedIds(), before);
+    // Removing it again: the service finds nothing to remove when it applies.
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request), PV_OK);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_ERR_UNKNOWN_DEVICE);
+}
+
+void TestSimEthernet::readOnlyMulticastSwitch()
+{
+    pv_ReadOnlyRequest request{{239, 1, 1, 10}, {192, 168, 50, 10}, 43, 1};
+    std::uint32_t flag = 0;
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_SET_READONLY_MULTICAST, &flag, sizeof flag), PV_OK);
+    flag = 7;
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_GET_READONLY_MULTICAST, &flag, sizeof flag), PV_OK);
+    QCOMPARE(flag, 0u);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_ADD_READONLY, &request, sizeof request), PV_ERR_NOT_SUPPORTED);
+    QVERIFY(!lastErrorText().isEmpty());
+
+    flag = 1;
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_SET_READONLY_MULTICAST, &flag, sizeof flag), PV_OK);
+    flag = 7;
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_GET_READONLY_MULTICAST, &flag, sizeof flag), PV_OK);
+    QCOMPARE(flag, 1u);
+    const std::int32_t before = ethDeviceCount();
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_ADD_READONLY, &request, sizeof request), PV_OK);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_OK);
+    QCOMPARE(ethDeviceCount(), before + 1);
+}
+
+void TestSimEthernet::adapterJumboPacketsAndFilter()
+{
+    pv_AdapterId simnet2 = adapterNamed("simnet2");
+    pv_AdapterBlock block{};
+    QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &block, sizeof block), PV_OK);
+    QCOMPARE(block.jumbo2k, 0u);
+    QVERIFY(block.packetSize <= 1450);
+    pv_DeviceInformation info = deviceInfo(noJumboCamera);
+    QVERIFY(!(info.deviceControlStatus & (PV_CONTROL_ADAPTER_OK | PV_CONTROL_AVAILABLE)));
+
+    std::uint32_t word = 1;
+    QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_SET, PV_ADAPTERCFG_JUMBO_2K, &word, sizeof word), PV_OK);
+    word = 0;
+    QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_GET, PV_ADAPTERCFG_JUMBO_2K, &word, sizeof word), PV_OK);
+    QCOMPARE(word, 1u);
+    info = deviceInfo(noJumboCamera);
+    QVERIFY(info.deviceControlStatus & PV_CONTROL_ADAPTER_OK);
+    QVERIFY(info.deviceControlStatus & PV_CONTROL_AVAILABLE);
+    QVERIFY(info.u.eth.adapterMaxPacketSizeDown >= 2048);
+
+    // The same adapter by MAC, without a name.
+    pv_AdapterId byMac{};
+    std::memcpy(byMac.mac, block.mac, sizeof byMac.mac);
+    QCOMPARE(pv_EthAdapterConfig(&byMac, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &block, sizeof block), PV_OK);
+    QCOMPARE(QByteArray(block.interfaceName), QByteArray("simnet2"));
+    QCOMPARE(block.jumbo2k, 1u);
+    QVERIFY(block.packetSize >= 2048);
+
+    for (std::uint32_t filter : {2u, 1u, 0u}) {
+        QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_SET, PV_ADAPTERCFG_PACKET_FILTER, &filter, 4), PV_OK);
+        word = 9;
+        QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_GET, PV_ADAPTERCFG_PACKET_FILTER, &word, 4), PV_OK);
+        QCOMPARE(word, filter);
+        QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &block, sizeof block), PV_OK);
+        QCOMPARE(block.packetFilter, std::int32_t(filter));
+        QCOMPARE(deviceInfo(noJumboCamera).u.eth.adapterPacketFilter, filter);
+    }
+
+    // Switching 2k packets off again takes the camera's reach away.
+    word = 0;
+    QCOMPARE(pv_EthAdapterConfig(&simnet2, PV_ADAPTER_SET, PV_ADAPTERCFG_JUMBO_2K, &word, sizeof word), PV_OK);
+    QVERIFY(!(deviceInfo(noJumboCamera).deviceControlStatus & PV_CONTROL_AVAILABLE));
+}
+
+void TestSimEthernet::adapterFramesTooSmallForJumboPackets()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "small0", "mac": "02:00:00:00:05:01",
+        "ip": "10.5.0.1", "mask": "255.255.255.0", "mtu": 1500}],
+        "cameras": [{"kind": "eth", "adapter": "small0", "mac": "00:1c:c1:00:05:01",
+                     "persistentIp": "10.5.0.10", "persistentMask": "255.255.255.0"}]})"),
+             PV_OK);
+    pv_AdapterId small0 = adapterNamed("small0");
+    pv_PacketSize size{};
+    QCOMPARE(pv_EthAdapterConfig(&small0, PV_ADAPTER_GET, PV_ADAPTERCFG_PACKET_SIZE, &size, sizeof size), PV_OK);
+    QVERIFY(size.current < 2048);
+    QVERIFY(size.maximum >= size.current);
+    std::uint32_t word = 1;
+    QCOMPARE(pv_EthAdapterConfig(&small0, PV_ADAPTER_GET, PV_ADAPTERCFG_JUMBO_2K, &word, sizeof word), PV_OK);
+    QCOMPARE(word, 1u);
+    // 2k packets on, but the adapter's frames can't carry them.
+    const pv_DeviceInformation info = deviceInfo(PV_ETH_DEVICE_FIRST);
+    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_ADAPTER_OK));
+    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_AVAILABLE));
+}
+
+void TestSimEthernet::stoppedServiceHidesGigE()
+{
+    const std::set<std::uint32_t> before = listedIds();
+    QVERIFY(std::any_of(before.begin(), before.end(), isEthernetId));
+
+    QCOMPARE(pvsim_SetServiceRunning("cirro_eth", 0), PV_OK);
+    std::int32_t serviceState = 0;
+    QCOMPARE(pvsim_GetServiceState("cirro_eth", &serviceState), PV_OK);
+    QCOMPARE(serviceState, 2);
+    std::set<std::uint32_t> expected;
+    std::copy_if(before.begin(), before.end(), std::inserter(expected, expected.end()),
+                 [](std::uint32_t id) { return !isEthernetId(id); });
+    QCOMPARE(listedIds(), expected);
+
+    pv_IpBlock block{};
+    pv_AdapterId simnet0 = adapterNamed("simnet0");
+    pv_AdapterBlock adapter{};
+    std::uint32_t on = 1;
+    QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block),
+             PV_ERR_SERVICE_STOPPED);
+    QCOMPARE(ethDeviceCount(), -PV_ERR_SERVICE_STOPPED);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_ERR_SERVICE_STOPPED);
+    QCOMPARE(pv_EthAdapterConfig(&simnet0, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &adapter, sizeof adapter),
+             PV_ERR_SERVICE_STOPPED);
+    QCOMPARE(pv_EthConfig(gigeCamera | PV_DEVICE_ID_FLAG, PV_ETHCFG_SET_MULTICAST_ENABLE, &on, 4),
+             PV_ERR_UNKNOWN_DEVICE);
+
+    QCOMPARE(pvsim_SetServiceRunning("cirro_eth", 1), PV_OK);
+    QCOMPARE(listedIds(), before);
+}
+
+void TestSimEthernet::unboundAdapterHidesItsCameras()
+{
+    QTemporaryDir config;
+    QVERIFY(config.isValid());
+    const QString ini = config.filePath("cirro_eth.ini");
+    writeIni(ini, "Bindings/simnet0", false);
+    qputenv("CIRRO_CONFIG_ROOT", config.path().toLocal8Bit());
+
+    const std::set<std::uint32_t> before = listedIds();
+    Event removed(PV_DRIVER_HANDLE, PV_EVENT_DEVICE_REMOVED);
+    QVERIFY(removed.ok());
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0), PV_OK);
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_REMOVED}, 2000), PV_OK);
+
+    int hidden = 0;
+    for (const QJsonValue& value : state().value("cameras").toArray()) {
+        const QJsonObject camera = value.toObject();
+        if (camera.value("kind").toString() != QLatin1String("eth"))
+            continue;
+        const bool onSimnet0 = camera.value("adapter").toString() == QLatin1String("simnet0");
+        QCOMPARE(camera.value("visible").toBool(), !onSimnet0);
+        QCOMPARE(listedIds().count(std::uint32_t(camera.value("deviceId").toInt())) == 1, !onSimnet0);
+        hidden += onSimnet0;
+    }
+    QVERIFY(hidden > 0);
+    QCOMPARE(int(listedIds().size()), int(before.size()) - hidden);
+    pv_AdapterId simnet0 = adapterNamed("simnet0");
+    pv_AdapterBlock adapter{};
+    QCOMPARE(pv_EthAdapterConfig(&simnet0, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &adapter, sizeof adapter), PV_OK);
+    QCOMPARE(adapter.bound, 0);
+    pv_IpBlock block{};
+    QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block),
+             PV_ERR_UNKNOWN_DEVICE);
+
+    writeIni(ini, "Bindings/simnet0", true);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0), PV_OK);
+    QCOMPARE(listedIds(), before);
+}
+
+QTEST_GUILESS_MAIN(TestSimEthernet)
+#include "tst_simethernet.moc"
