@@ -6,15 +6,23 @@
 #include <QtTest>
 
 #include <cstring>
+#include <vector>
 
 extern "C" int cirroApiHeaderCompilesAsC(void);
 
 namespace {
 
+using Bytes = std::vector<unsigned char>;
+
 template <typename T>
-void put(QByteArray& bytes, int offset, T value)
+void put(Bytes& bytes, std::size_t offset, T value)
 {
-    std::memcpy(bytes.data() + offset, &value, sizeof value);
+    std::memcpy(&bytes.at(offset), &value, sizeof value);
+}
+
+void putText(Bytes& bytes, std::size_t offset, const char* text, std::size_t length)
+{
+    std::memcpy(&bytes.at(offset), text, length);
 }
 
 } // namespace
@@ -37,23 +45,23 @@ void TestApiLayout::headerIsValidC()
 
 void TestApiLayout::listEntryFromBytes()
 {
-    QByteArray bytes(112, '\0');
+    Bytes bytes(112, 0);
     put<quint32>(bytes, 0, 17);
     put<quint32>(bytes, 4, 1003);
     put<quint32>(bytes, 8, 0x42);
     put<quint32>(bytes, 12, 1);
-    std::memcpy(bytes.data() + 16, "SN-0123456789ABC", 16); // no terminator: fills the field
-    std::memcpy(bytes.data() + 32, "CR-G2040", 8);
+    putText(bytes, 16, "SN-0123456789ABC", 16); // no terminator: fills the field
+    putText(bytes, 32, "CR-G2040", 8);
     put<quint32>(bytes, 48, 0x80000003u);
     put<quint8>(bytes, 52, 0x8A);
     put<quint8>(bytes, 53, 0x40);
     put<quint8>(bytes, 54, 0x08);
     put<quint8>(bytes, 56, 0x77);
     put<quint8>(bytes, 57, 2);
-    std::memcpy(bytes.data() + 60, "CR-G2040 GigE colour", 20);
+    putText(bytes, 60, "CR-G2040 GigE colour", 20);
 
     pv_CameraListEntry entry;
-    std::memcpy(&entry, bytes.constData(), sizeof entry);
+    std::memcpy(&entry, bytes.data(), sizeof entry);
     QCOMPARE(entry.cameraId, 17u);
     QCOMPARE(entry.deviceId, 1003u);
     QCOMPARE(entry.sensorId, 0x42u);
@@ -73,13 +81,13 @@ void TestApiLayout::listBufferStride()
 {
     // A buffer for n entries is n * 112 + 4 bytes: entry i starts at 4 + i * 112.
     constexpr int count = 3;
-    QByteArray buffer(count * 112 + 4, '\0');
+    Bytes buffer(count * 112 + 4, 0);
     put<qint32>(buffer, 0, count);
     for (int i = 0; i < count; ++i)
         put<quint32>(buffer, 4 + i * 112 + 4, 1000u + i);
 
     const auto* entries =
-        reinterpret_cast<const pv_CameraListEntry*>(buffer.constData() + PV_CAMERA_LIST_HEADER_SIZE);
+        reinterpret_cast<const pv_CameraListEntry*>(buffer.data() + PV_CAMERA_LIST_HEADER_SIZE);
     for (int i = 0; i < count; ++i)
         QCOMPARE(entries[i].deviceId, 1000u + i);
 }
