@@ -161,28 +161,38 @@ std::uint32_t Fleet::knownDevicesOn(const std::string& adapterName) const
     return count;
 }
 
-// Cameras without a persistent address take the free addresses of their
-// adapter's range in device ID order, skipping those that others use.
+// Cameras without a persistent address keep the range address they have, as
+// long as it stays in the range and nobody else uses it; the others take the
+// free addresses of their adapter's range in device ID order.
 std::map<std::uint32_t, std::uint32_t> Fleet::assignRangeAddresses() const
 {
     std::map<std::uint32_t, std::uint32_t> assigned;
     for (const SimAdapter& a : adapters) {
         if (!a.rangeValid())
             continue;
+        std::vector<const SimCamera*> waiting;
         std::set<std::uint32_t> taken{a.ip};
         for (const auto& [id, camera] : m_cameras) {
             if (camera.kind == CameraKind::Eth && camera.adapterName == a.name && camera.persistentIp != 0)
                 taken.insert(camera.persistentIp);
         }
-        std::uint32_t next = a.rangeBegin;
         for (const auto& [id, camera] : m_cameras) {
             if (camera.kind != CameraKind::Eth || camera.adapterName != a.name || camera.persistentIp != 0)
                 continue;
+            const std::uint32_t kept = camera.currentIp;
+            if (kept >= a.rangeBegin && kept <= a.rangeEnd && taken.insert(kept).second)
+                assigned[id] = kept;
+            else
+                waiting.push_back(&camera);
+        }
+        std::uint32_t next = a.rangeBegin;
+        for (const SimCamera* camera : waiting) {
             while (next <= a.rangeEnd && taken.count(next))
                 ++next;
             if (next > a.rangeEnd)
                 break;
-            assigned[id] = next++;
+            taken.insert(next);
+            assigned[camera->deviceId] = next++;
         }
     }
     return assigned;

@@ -183,6 +183,8 @@ void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
     QVERIFY(camera.u.eth.adapterRangeValid);
 
     // As the automatic configuration does it: clear the address, by camera MAC.
+    const std::uint32_t handedOut = deviceInfo(rangeCamera).u.eth.currentIp;
+    QVERIFY(handedOut != 0);
     pv_IpBlock none{};
     QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, camera.u.eth.macAddress, PV_IPCFG_SET_PERSISTENT, &none, sizeof none),
              PV_OK);
@@ -191,6 +193,7 @@ void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
     QVERIFY(current >= hostOrder(range.first) && current <= hostOrder(range.second));
     QVERIFY(!(info.deviceControlStatus & PV_CONTROL_PERSISTENT_IP_USED));
     QVERIFY(info.deviceControlStatus & PV_CONTROL_AVAILABLE);
+    QCOMPARE(deviceInfo(rangeCamera).u.eth.currentIp, handedOut); // an address handed out stays
 
     // No two cameras of the adapter end up with the same address.
     std::set<std::uint32_t> addresses{info.u.eth.adapterIp};
