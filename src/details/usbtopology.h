@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/kernelmodules.h"
+
 #include <QString>
 #include <QtGlobal>
 
@@ -81,9 +83,11 @@ public:
     Q_DISABLE_COPY_MOVE(UsbTopology)
 
     // Reads the tree from the host; pciIds names PCI vendors and devices when
-    // that file exists. Anything unreadable is left out, never reported.
+    // that file exists, modules dates the drivers. Anything unreadable is left
+    // out, never reported.
     static std::shared_ptr<const UsbTopology> build(const QString& sysfsRoot = defaultSysfsRoot,
-                                                    const QString& pciIds = defaultPciIds);
+                                                    const QString& pciIds = defaultPciIds,
+                                                    const KernelModules& modules = KernelModules::running());
 
     const std::vector<HostController>& controllers() const { return m_controllers; }
 

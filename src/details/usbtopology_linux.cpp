@@ -1,6 +1,7 @@
-#include "details/pciids.h"
-#include "details/sysfsnode.h"
 #include "details/usbtopology.h"
+
+#include "common/hardwareids.h"
+#include "common/sysfsnode.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,12 +50,6 @@ std::optional<int> rootHubBus(const QString& name)
     return ok ? std::optional<int>(bus) : std::nullopt;
 }
 
-std::optional<quint16> word(const SysfsNode& node, const QString& attribute)
-{
-    const std::optional<uint> value = node.hex(attribute);
-    return value && *value <= 0xffff ? std::optional<quint16>(quint16(*value)) : std::nullopt;
-}
-
 struct PciFunction
 {
     quint16 vendor = 0;
@@ -67,11 +62,11 @@ struct PciFunction
 
 std::optional<PciFunction> readPciFunction(const SysfsNode& node)
 {
-    const auto vendor = word(node, QStringLiteral("vendor"));
-    const auto device = word(node, QStringLiteral("device"));
-    const auto subsystemVendor = word(node, QStringLiteral("subsystem_vendor"));
-    const auto subsystemDevice = word(node, QStringLiteral("subsystem_device"));
-    const auto revision = word(node, QStringLiteral("revision"));
+    const auto vendor = node.word(QStringLiteral("vendor"));
+    const auto device = node.word(QStringLiteral("device"));
+    const auto subsystemVendor = node.word(QStringLiteral("subsystem_vendor"));
+    const auto subsystemDevice = node.word(QStringLiteral("subsystem_device"));
+    const auto revision = node.word(QStringLiteral("revision"));
     if (!vendor || !device || !subsystemVendor || !subsystemDevice || !revision || *revision > 0xff) {
         qCDebug(lcUsbTopology) << "no PCI identity in" << node.path();
         return std::nullopt;
@@ -91,16 +86,6 @@ QString rootHubDescription(const SysfsNode& node)
         : QCoreApplication::translate("UsbTopology", "USB Root Hub (USB %1)").arg(version);
 }
 
-Topology::DriverInfo driverInfo(const SysfsNode& node, const SysfsNode& modules)
-{
-    const std::optional<SysfsNode> driver = node.follow(QStringLiteral("driver"));
-    if (!driver)
-        return {};
-    const std::optional<SysfsNode> module = driver->follow(QStringLiteral("module"));
-    const SysfsNode moduleNode = module ? *module : modules.child(driver->name());
-    return {driver->name(), moduleNode.text(QStringLiteral("version")).value_or(QString()), QString()};
-}
-
 // The driver that serves a device is bound to its first claimed interface;
 // only the generic "usb" driver is bound to the device itself.
 SysfsNode functionNode(const SysfsNode& device)
@@ -118,7 +103,7 @@ SysfsNode functionNode(const SysfsNode& device)
 class SysfsWalk final
 {
 public:
-    explicit SysfsWalk(const QString& sysfsRoot);
+    SysfsWalk(const QString& sysfsRoot, const KernelModules& modules);
 
     std::vector<Topology::HostController> controllers(const QString& pciIdsPath) const;
 
@@ -128,19 +113,22 @@ private:
     void index(const QDir& usbDevices);
     Topology::HostController controller(const SysfsNode& node, const RootHubs& rootHubs,
                                         const std::optional<PciFunction>& pci,
-                                        const PciIds& names) const;
+                                        const HardwareIds& names) const;
     Topology::Hub hub(const SysfsNode& node, Topology::NodeKind kind, QString description,
                       int ports) const;
     std::unique_ptr<const Topology::Device> device(const SysfsNode& node) const;
     int portCount(const SysfsNode& node) const;
+    Topology::DriverInfo driverInfo(const SysfsNode& node) const;
 
     SysfsNode m_root;
+    const KernelModules& m_modules;
     std::map<QString, std::map<int, SysfsNode>> m_children; // hub name -> port -> device
     std::map<QString, RootHubs> m_rootHubs; // controller's directory -> its root hubs
 };
 
-SysfsWalk::SysfsWalk(const QString& sysfsRoot)
+SysfsWalk::SysfsWalk(const QString& sysfsRoot, const KernelModules& modules)
     : m_root(sysfsRoot)
+    , m_modules(modules)
 {
     const QDir usbDevices(sysfsRoot + QLatin1String("/bus/usb/devices"));
     if (usbDevices.exists())
@@ -166,30 +154,25 @@ void SysfsWalk::index(const QDir& usbDevices)
 
 std::vector<Topology::HostController> SysfsWalk::controllers(const QString& pciIdsPath) const
 {
-    std::vector<std::optional<PciFunction>> functions;
-    QSet<quint16> vendors;
-    for (const auto& entry : m_rootHubs) {
-        const SysfsNode pciNode =
-            m_root.child(QLatin1String("bus/pci/devices/") + QFileInfo(entry.first).fileName());
-        functions.push_back(pciNode.exists() ? readPciFunction(pciNode) : std::nullopt);
-        if (functions.back())
-            vendors.insert(functions.back()->vendor);
-    }
-    const PciIds names(pciIdsPath, vendors);
+    const HardwareIds names({pciIdsPath});
     std::vector<Topology::HostController> result;
-    auto function = functions.cbegin();
-    for (const auto& [path, rootHubs] : m_rootHubs)
-        result.push_back(controller(SysfsNode(path), rootHubs, *function++, names));
+    for (const auto& [path, rootHubs] : m_rootHubs) {
+        const SysfsNode pciNode =
+            m_root.child(QLatin1String("bus/pci/devices/") + QFileInfo(path).fileName());
+        const std::optional<PciFunction> pci =
+            pciNode.exists() ? readPciFunction(pciNode) : std::nullopt;
+        result.push_back(controller(SysfsNode(path), rootHubs, pci, names));
+    }
     return result;
 }
 
 Topology::HostController SysfsWalk::controller(const SysfsNode& node, const RootHubs& rootHubs,
                                                const std::optional<PciFunction>& pci,
-                                               const PciIds& names) const
+                                               const HardwareIds& names) const
 {
     Topology::HostController controller;
     controller.name = node.name();
-    controller.driver = driverInfo(node, m_root.child(QStringLiteral("module")));
+    controller.driver = driverInfo(node);
     for (const auto& [bus, rootHub] : rootHubs)
         controller.rootHubs.push_back(hub(rootHub, Topology::NodeKind::RootHub,
                                           rootHubDescription(rootHub), portCount(rootHub)));
@@ -240,6 +223,20 @@ int SysfsWalk::portCount(const SysfsNode& node) const
     return count;
 }
 
+// The version is the one sysfs shows for the driver's module, the date that
+// of the module's file; either stays empty where the system keeps none.
+Topology::DriverInfo SysfsWalk::driverInfo(const SysfsNode& node) const
+{
+    const std::optional<SysfsNode> driver = node.follow(QStringLiteral("driver"));
+    if (!driver)
+        return {};
+    const std::optional<SysfsNode> module = driver->follow(QStringLiteral("module"));
+    const SysfsNode moduleNode =
+        module ? *module : m_root.child(QStringLiteral("module/") + driver->name());
+    return {driver->name(), moduleNode.text(QStringLiteral("version")).value_or(QString()),
+            m_modules.buildDate(moduleNode.name())};
+}
+
 std::unique_ptr<const Topology::Device> SysfsWalk::device(const SysfsNode& node) const
 {
     auto device = std::make_unique<Topology::Device>();
@@ -247,10 +244,10 @@ std::unique_ptr<const Topology::Device> SysfsWalk::device(const SysfsNode& node)
     device->description = node.text(QStringLiteral("product")).value_or(QString());
     if (device->description.isEmpty())
         device->description = QCoreApplication::translate("UsbTopology", "unkown");
-    device->driver = driverInfo(functionNode(node), m_root.child(QStringLiteral("module")));
+    device->driver = driverInfo(functionNode(node));
     device->speedMbits = node.number(QStringLiteral("speed")).value_or(0);
-    const auto vendor = word(node, QStringLiteral("idVendor"));
-    const auto product = word(node, QStringLiteral("idProduct"));
+    const auto vendor = node.word(QStringLiteral("idVendor"));
+    const auto product = node.word(QStringLiteral("idProduct"));
     if (vendor && product)
         device->instanceId = Topology::instanceId(
             *vendor, *product, node.text(QStringLiteral("serial")).value_or(QString()),
@@ -267,7 +264,8 @@ std::unique_ptr<const Topology::Device> SysfsWalk::device(const SysfsNode& node)
 } // namespace
 
 std::shared_ptr<const UsbTopology> UsbTopology::build(const QString& sysfsRoot,
-                                                      const QString& pciIds)
+                                                      const QString& pciIds,
+                                                      const KernelModules& modules)
 {
-    return std::make_shared<const UsbTopology>(SysfsWalk(sysfsRoot).controllers(pciIds));
+    return std::make_shared<const UsbTopology>(SysfsWalk(sysfsRoot, modules).controllers(pciIds));
 }

@@ -28,11 +28,6 @@ QString virtualKind(const SysfsNetDevice& device, const QString& driverName)
     return driverName.isEmpty() ? linkTypeName(device.linkType()) : driverName;
 }
 
-QString hexId(quint16 id)
-{
-    return QStringLiteral("%1").arg(id, 4, 16, QLatin1Char('0'));
-}
-
 } // namespace
 
 AdapterDescription::AdapterDescription(const QString& sysfsRoot, const QStringList& pciIdFiles,
@@ -64,13 +59,9 @@ QString AdapterDescription::describe(const QString& interfaceName, const QString
     const SysfsNetDevice::HardwareIdentity identity = device.hardwareIdentity();
     if (identity.bus == SysfsNetDevice::Bus::None)
         return driverName;
-    const HardwareIds* ids = identity.bus == SysfsNetDevice::Bus::Pci ? &m_pciIds
-                           : identity.bus == SysfsNetDevice::Bus::Usb ? &m_usbIds
-                                                                      : nullptr;
-    const HardwareIds::Names names = ids ? ids->lookup(identity.vendor, identity.device) : HardwareIds::Names{};
-    if (!names.device.isEmpty())
-        return names.vendor + QLatin1Char(' ') + names.device;
-    if (!names.vendor.isEmpty())
-        return QStringLiteral("%1 Device %2").arg(names.vendor, hexId(identity.device));
-    return hexId(identity.vendor) + QLatin1Char(':') + hexId(identity.device);
+    if (identity.bus == SysfsNetDevice::Bus::Pci)
+        return m_pciIds.describe(identity.vendor, identity.device);
+    if (identity.bus == SysfsNetDevice::Bus::Usb)
+        return m_usbIds.describe(identity.vendor, identity.device);
+    return HardwareIds::numbers(identity.vendor, identity.device);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "network/hardwareids.h"
+#include "common/hardwareids.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #include "network/networkadapters.h"
 
+#include "common/kernelmodules.h"
 #include "network/adapterdescription_linux.h"
 #include "network/ethtooldriverinfo_linux.h"
-#include "network/kernelmodules_linux.h"
 #include "network/networkadapters_p.h"
 #include "network/networkmanagerclient_linux.h"
 #include "network/sysfsnetdevice_linux.h"

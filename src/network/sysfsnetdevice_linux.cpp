@@ -1,68 +1,57 @@
 #include "network/sysfsnetdevice_linux.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QDir>
 
 namespace {
 
-QString linkTargetName(const QString& path)
+// A name with a slash would leave class/net.
+bool isInterfaceName(const QString& name)
 {
-    const QString target = QFileInfo(path).symLinkTarget();
-    return target.isEmpty() ? QString() : QFileInfo(target).fileName();
+    return !name.isEmpty() && !name.contains(QLatin1Char('/')) && !name.startsWith(QLatin1Char('.'));
 }
 
-// Attributes are short; a broken or unreadable one reads as empty.
-QString readAttribute(const QString& path)
+QString linkTargetName(const SysfsNode& node, const QString& link)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.read(4096)).trimmed();
+    const std::optional<SysfsNode> target = node.follow(link);
+    return target ? target->name() : QString();
 }
 
-bool readHexId(const QString& path, quint16* id)
-{
-    bool ok = false;
-    const uint value = readAttribute(path).toUInt(&ok, 16);
-    if (!ok || value > 0xFFFF)
-        return false;
-    *id = quint16(value);
-    return true;
-}
-
-bool readIds(const QDir& dir, const QString& vendorFile, const QString& deviceFile,
+bool readIds(const SysfsNode& node, const QString& vendorAttribute, const QString& deviceAttribute,
              SysfsNetDevice::HardwareIdentity* identity)
 {
-    return readHexId(dir.filePath(vendorFile), &identity->vendor)
-        && readHexId(dir.filePath(deviceFile), &identity->device);
+    const std::optional<quint16> vendor = node.word(vendorAttribute);
+    const std::optional<quint16> device = node.word(deviceAttribute);
+    if (!vendor || !device)
+        return false;
+    identity->vendor = *vendor;
+    identity->device = *device;
+    return true;
 }
 
 } // namespace
 
 SysfsNetDevice::SysfsNetDevice(const QString& sysfsRoot, const QString& interfaceName)
     : m_root(QDir(sysfsRoot).canonicalPath())
-    , m_interfaceDir(QDir(sysfsRoot).filePath(QStringLiteral("class/net/") + interfaceName))
+    , m_interface(isInterfaceName(interfaceName)
+                      ? QDir(sysfsRoot).filePath(QStringLiteral("class/net/") + interfaceName)
+                      : QString())
 {
-    // A name with a slash would leave class/net.
-    if (interfaceName.isEmpty() || interfaceName.contains(QLatin1Char('/'))
-        || interfaceName.startsWith(QLatin1Char('.')))
-        m_interfaceDir.setPath(QString());
 }
 
 bool SysfsNetDevice::exists() const
 {
-    return !m_interfaceDir.path().isEmpty() && m_interfaceDir.exists();
+    return !m_interface.path().isEmpty() && m_interface.exists();
 }
 
 bool SysfsNetDevice::hasDevice() const
 {
-    return exists() && QFileInfo::exists(m_interfaceDir.filePath(QStringLiteral("device")));
+    return exists() && m_interface.child(QStringLiteral("device")).exists();
 }
 
 QString SysfsNetDevice::deviceType() const
 {
     const QString prefix = QStringLiteral("DEVTYPE=");
-    const QString uevent = readAttribute(m_interfaceDir.filePath(QStringLiteral("uevent")));
+    const QString uevent = m_interface.text(QStringLiteral("uevent")).value_or(QString());
     for (const QString& line : uevent.split(QLatin1Char('\n'))) {
         if (line.startsWith(prefix))
             return line.mid(prefix.size()).trimmed();
@@ -72,9 +61,7 @@ QString SysfsNetDevice::deviceType() const
 
 int SysfsNetDevice::linkType() const
 {
-    bool ok = false;
-    const int type = readAttribute(m_interfaceDir.filePath(QStringLiteral("type"))).toInt(&ok);
-    return ok ? type : -1;
+    return m_interface.decimal(QStringLiteral("type")).value_or(-1);
 }
 
 SysfsNetDevice::HardwareIdentity SysfsNetDevice::hardwareIdentity() const
@@ -82,28 +69,29 @@ SysfsNetDevice::HardwareIdentity SysfsNetDevice::hardwareIdentity() const
     HardwareIdentity identity;
     if (!hasDevice())
         return identity;
-    const QString devicePath = QDir(m_interfaceDir.filePath(QStringLiteral("device"))).canonicalPath();
+    const QString devicePath = QDir(m_interface.child(QStringLiteral("device")).path()).canonicalPath();
     // Walk up: a USB network function sits on an interface below its USB
     // device, a virtio function below its PCI device.
     for (QDir dir(devicePath); dir.path().startsWith(m_root + QLatin1Char('/')); ) {
-        if (readIds(dir, QStringLiteral("idVendor"), QStringLiteral("idProduct"), &identity)) {
+        const SysfsNode node(dir.path());
+        if (readIds(node, QStringLiteral("idVendor"), QStringLiteral("idProduct"), &identity)) {
             identity.bus = Bus::Usb;
             return identity;
         }
-        if (linkTargetName(dir.filePath(QStringLiteral("subsystem"))) == QLatin1String("pci")
-            && readIds(dir, QStringLiteral("vendor"), QStringLiteral("device"), &identity)) {
+        if (linkTargetName(node, QStringLiteral("subsystem")) == QLatin1String("pci")
+            && readIds(node, QStringLiteral("vendor"), QStringLiteral("device"), &identity)) {
             identity.bus = Bus::Pci;
             return identity;
         }
         if (!dir.cdUp())
             break;
     }
-    if (readIds(QDir(devicePath), QStringLiteral("vendor"), QStringLiteral("device"), &identity))
+    if (readIds(SysfsNode(devicePath), QStringLiteral("vendor"), QStringLiteral("device"), &identity))
         identity.bus = Bus::Other;
     return identity;
 }
 
 QString SysfsNetDevice::driverModule() const
 {
-    return linkTargetName(m_interfaceDir.filePath(QStringLiteral("device/driver/module")));
+    return linkTargetName(m_interface, QStringLiteral("device/driver/module"));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDir>
+#include "common/sysfsnode.h"
+
 #include <QString>
 
 // What sysfs tells about one network interface: /sys/class/net/<name> and the
@@ -36,5 +37,5 @@ public:
 
 private:
     QString m_root;
-    QDir m_interfaceDir;
+    SysfsNode m_interface; // an empty path for a name that is no interface's
 };

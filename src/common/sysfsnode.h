@@ -17,6 +17,7 @@ public:
 
     std::optional<QString> text(const QString& attribute) const; // trimmed
     std::optional<uint> hex(const QString& attribute) const;     // with or without "0x"
+    std::optional<quint16> word(const QString& attribute) const; // a hexadecimal vendor or device id
     std::optional<int> decimal(const QString& attribute) const;
     std::optional<double> number(const QString& attribute) const;
 

@@ -1,4 +1,4 @@
-#include "network/kernelmodules_linux.h"
+#include "common/kernelmodules.h"
 
 #include <QDateTime>
 #include <QDir>

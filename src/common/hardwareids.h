@@ -11,23 +11,28 @@
 class HardwareIds final
 {
 public:
+    // Uses the first readable file of candidates; with none, every device is
+    // described by its numbers.
+    explicit HardwareIds(const QStringList& candidates);
+    Q_DISABLE_COPY_MOVE(HardwareIds)
+
+    // "Intel Corporation Ethernet Connection (7) I219-LM"; hardware missing
+    // from the list shows its numbers: "Intel Corporation Device 15f3" or
+    // "8086:15f3".
+    QString describe(quint16 vendor, quint16 device) const;
+    // "8086:15f3"
+    static QString numbers(quint16 vendor, quint16 device);
+
+private:
     struct Names
     {
         QString vendor;
         QString device;
     };
 
-    // Uses the first readable file of candidates; with none, every lookup
-    // gives empty names.
-    explicit HardwareIds(const QStringList& candidates);
-    Q_DISABLE_COPY_MOVE(HardwareIds)
-
-    bool isAvailable() const { return !m_text.isEmpty(); }
+    void indexVendors();
     // Unknown ids give empty names.
     Names lookup(quint16 vendor, quint16 device) const;
-
-private:
-    void indexVendors();
 
     QFile m_file;
     // Views the mapped file without copying it.

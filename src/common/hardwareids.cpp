@@ -1,11 +1,13 @@
-#include "network/hardwareids.h"
+#include "common/hardwareids.h"
 
-#include "network/networklogging.h"
+#include <QLoggingCategory>
 
 #include <cctype>
 #include <optional>
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcHardwareIds, "cirro.common.hardwareids")
 
 QByteArray hexId(quint16 id)
 {
@@ -58,6 +60,8 @@ QByteArray vendorBlock(const QByteArray& text, int vendorLine)
 HardwareIds::HardwareIds(const QStringList& candidates)
 {
     for (const QString& path : candidates) {
+        if (path.isEmpty())
+            continue;
         m_file.setFileName(path);
         if (!m_file.open(QIODevice::ReadOnly))
             continue;
@@ -67,7 +71,7 @@ HardwareIds::HardwareIds(const QStringList& candidates)
             indexVendors();
             return;
         }
-        qCWarning(lcNetwork) << "cannot read hardware id list" << path << m_file.errorString();
+        qCWarning(lcHardwareIds) << "cannot read hardware id list" << path << m_file.errorString();
         m_file.close();
     }
 }
@@ -97,4 +101,19 @@ HardwareIds::Names HardwareIds::lookup(quint16 vendor, quint16 device) const
     if (deviceLine >= 0)
         names.device = restOfLine(block, deviceLine + devicePrefix.size());
     return names;
+}
+
+QString HardwareIds::describe(quint16 vendor, quint16 device) const
+{
+    const Names names = lookup(vendor, device);
+    if (!names.device.isEmpty())
+        return names.vendor + QLatin1Char(' ') + names.device;
+    if (!names.vendor.isEmpty())
+        return QStringLiteral("%1 Device %2").arg(names.vendor, QString::fromLatin1(hexId(device)));
+    return numbers(vendor, device);
+}
+
+QString HardwareIds::numbers(quint16 vendor, quint16 device)
+{
+    return QString::fromLatin1(hexId(vendor) + ':' + hexId(device));
 }

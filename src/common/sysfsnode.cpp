@@ -1,4 +1,4 @@
-#include "details/sysfsnode.h"
+#include "common/sysfsnode.h"
 
 #include <QDir>
 #include <QFile>
@@ -56,6 +56,12 @@ std::optional<uint> SysfsNode::hex(const QString& attribute) const
             value.remove(0, 2);
         return value.toUInt(ok, 16);
     });
+}
+
+std::optional<quint16> SysfsNode::word(const QString& attribute) const
+{
+    const std::optional<uint> value = hex(attribute);
+    return value && *value <= 0xffff ? std::optional<quint16>(quint16(*value)) : std::nullopt;
 }
 
 std::optional<int> SysfsNode::decimal(const QString& attribute) const
