@@ -1,0 +1,61 @@
+#pragma once
+
+#include "camera/asyncevent.h"
+#include "camera/camera.h"
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QStringList>
+
+#include <memory>
+#include <mutex>
+
+// The table of all cameras the driver reports. It fetches the list again on
+// every device-list event of the driver: the event thread only emits
+// listChanged(), which reaches the GUI thread as a queued call.
+class CameraListModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using AsyncEvent = ::AsyncEvent;
+
+    enum Column { Free, Available, Type, CameraId, DeviceId, Model, SerialNumber, ColumnCount };
+    static constexpr std::uint32_t stopEventNumber = 10000;
+    static constexpr int cameraRole = Qt::UserRole;
+
+    // Throws CirroException when the driver refuses the device-list events.
+    explicit CameraListModel(QObject* parent = nullptr);
+    ~CameraListModel() override;
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    const QList<std::shared_ptr<Camera>>& cameraList() const { return cameras; }
+
+    static QString typeText(const Camera& camera);
+    static QString modelText(const Camera& camera);
+    static QString freeText(const Camera& camera);
+    static QString availableText(const Camera& camera);
+    static QString iconName(const Camera& camera);
+
+signals:
+    // Emitted from the event thread for every device-list event.
+    void listChanged();
+
+public slots:
+    void retranslate();
+    void onCameraListChanged();
+
+private:
+    void fetchCameraList();
+    QVariant displayText(const Camera& camera, int column) const;
+
+    // Destroyed in reverse: the dispatcher stops first, the texts go last.
+    QStringList headers;
+    QList<std::shared_ptr<Camera>> cameras;
+    std::mutex listMutex;
+    AsyncEvent events{stopEventNumber};
+};
