@@ -162,8 +162,12 @@ int32_t PV_CALL pvsim_GetServiceState(const char* service, int32_t* state)
 
 int32_t PV_CALL pvsim_SetApiVersion(uint32_t version)
 {
-    SimDriver::instance().read([&](Fleet& fleet) { fleet.settings.apiVersion = version; });
-    return PV_OK;
+    return SimDriver::instance()
+        .change([&](Fleet& fleet) {
+            fleet.settings.apiVersion = version;
+            return success();
+        })
+        .code;
 }
 
 int32_t PV_CALL pvsim_SetTimeScale(double scale)

@@ -22,10 +22,8 @@ int run(const QStringList& arguments)
     CommandLine commandLine;
     commandLine.process(arguments);
 
-    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion())) {
+    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
         ApiVersionCheck::showRefusal();
-        return 0;
-    }
     return 0;
 }
 

@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 
 #include <cstring>
 
@@ -101,6 +102,19 @@ private:
     std::uint32_t m_handle;
     std::uint32_t m_number;
     bool m_ok = false;
+};
+
+// An empty configuration root that keeps the host's driver configuration out
+// of a test; use() points the driver at it again (before every test).
+class EmptyConfigRoot
+{
+public:
+    bool isValid() const { return m_dir.isValid(); }
+    QString path() const { return m_dir.path(); }
+    void use() const { qputenv("CIRRO_CONFIG_ROOT", m_dir.path().toLocal8Bit()); }
+
+private:
+    QTemporaryDir m_dir;
 };
 
 // One wait for any of the numbers; returns the code, writes the signalled event.

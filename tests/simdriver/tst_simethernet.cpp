@@ -118,7 +118,7 @@ private slots:
     void unboundAdapterHidesItsCameras();
 
 private:
-    QTemporaryDir m_emptyConfig; // keeps the host's driver configuration out
+    EmptyConfigRoot m_emptyConfig;
 };
 
 void TestSimEthernet::initTestCase()
@@ -128,13 +128,13 @@ void TestSimEthernet::initTestCase()
 
 void TestSimEthernet::init()
 {
-    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+    m_emptyConfig.use();
     QVERIFY(reset());
 }
 
 void TestSimEthernet::cleanup()
 {
-    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+    m_emptyConfig.use();
 }
 
 void TestSimEthernet::persistentIpRoundTrip_data()

@@ -134,7 +134,7 @@ private slots:
     void startupEnvironment();
 
 private:
-    QTemporaryDir m_emptyConfig; // keeps the host's driver configuration out
+    EmptyConfigRoot m_emptyConfig;
 };
 
 void TestSimScenario::initTestCase()
@@ -144,13 +144,13 @@ void TestSimScenario::initTestCase()
 
 void TestSimScenario::init()
 {
-    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+    m_emptyConfig.use();
     QVERIFY(reset());
 }
 
 void TestSimScenario::cleanup()
 {
-    qputenv("CIRRO_CONFIG_ROOT", m_emptyConfig.path().toLocal8Bit());
+    m_emptyConfig.use();
 }
 
 void TestSimScenario::rejectedScenarioKeepsTheFleet_data()
