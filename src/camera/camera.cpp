@@ -113,12 +113,24 @@ bool Camera::isSpecialType() const
 {
     if (m_deviceId >= PV_ETH_DEVICE_FIRST)
         return m_typeCode >= 138 && m_typeCode <= 140;
+    const std::optional<quint32> status = readFeatureStatus();
+    return status && (*status & PV_FEATURE_SPECIAL_TYPE) && !(*status & PV_FEATURE_LEGACY);
+}
+
+bool Camera::hasCameraInfoFeature() const
+{
+    const std::optional<quint32> status = readFeatureStatus();
+    return status && (*status & PV_FEATURE_CAMERA_INFO);
+}
+
+std::optional<quint32> Camera::readFeatureStatus() const
+{
     pv_FeatureBlock features{};
     if (pv_DeviceFeature(m_deviceId | PV_DEVICE_ID_FLAG, PV_FEATURE_READ, PV_FEATURE_DEVICE_CAPABILITIES, 0,
                          &features, sizeof features)
         != PV_OK)
-        return false;
-    return (features.status & PV_FEATURE_SPECIAL_TYPE) && !(features.status & PV_FEATURE_LEGACY);
+        return std::nullopt;
+    return features.status;
 }
 
 void Camera::fillDeviceInformation()

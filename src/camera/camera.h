@@ -52,6 +52,8 @@ public:
     bool isUsb3Family() const { return (m_typeCode & 0xF0) == 0x60; }
     // Reads the camera's feature block for USB cameras.
     bool isSpecialType() const;
+    // Reads the feature block: the camera keeps an information block of its own.
+    bool hasCameraInfoFeature() const;
 
     // Device-information layer
     qint32 devInfoResult() const { return m_devInfoResult; }
@@ -107,6 +109,8 @@ public:
     static QString temperatureText(quint16 word);
 
 private:
+    // The capability word of the feature block, or nullopt when the read fails.
+    std::optional<quint32> readFeatureStatus() const;
     void fillDeviceInformation();
     bool readDeviceInformation();
     void genericFill();

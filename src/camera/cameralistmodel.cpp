@@ -35,11 +35,8 @@ CameraListModel::CameraListModel(QObject* parent)
     retranslate();
     for (int number : {PV_EVENT_DEVICE_REMOVED, PV_EVENT_DEVICE_ARRIVED, PV_EVENT_DEVICE_CHANGED})
         events.setHandler(number, [this] { emit listChanged(); });
-    connect(this, &CameraListModel::listChanged, this, [this] {
-        beginResetModel();
-        fetchCameraList();
-        endResetModel();
-    });
+    // Emitted on the worker, so the refetch is queued to this object's thread.
+    connect(this, &CameraListModel::listChanged, this, &CameraListModel::onCameraListChanged);
     fetchCameraList();
 }
 
@@ -164,13 +161,18 @@ QString CameraListModel::freeText(const Camera& camera)
     return tr("Yes");
 }
 
-QString CameraListModel::availableText(const Camera& camera)
+bool CameraListModel::isAvailable(const Camera& camera)
 {
     if (camera.inUse())
-        return tr("No");
+        return false;
     if (usesListStatus(camera))
-        return (camera.status() & 0xF) == 0 ? tr("Yes") : tr("No");
-    return reachable(camera) ? tr("Yes") : tr("No");
+        return (camera.status() & 0xF) == 0;
+    return reachable(camera);
+}
+
+QString CameraListModel::availableText(const Camera& camera)
+{
+    return isAvailable(camera) ? tr("Yes") : tr("No");
 }
 
 QString CameraListModel::iconName(const Camera& camera)

@@ -39,6 +39,7 @@ public:
     static QString modelText(const Camera& camera);
     static QString freeText(const Camera& camera);
     static QString availableText(const Camera& camera);
+    static bool isAvailable(const Camera& camera);
     static QString iconName(const Camera& camera);
 
 signals:

@@ -1,0 +1,182 @@
+#include "camera/cameralist.h"
+
+#include "camera/cameralistmodel.h"
+#include "camera/cameratableview.h"
+
+#include <QMenu>
+#include <QSortFilterProxyModel>
+#include <QTimer>
+
+namespace {
+
+constexpr quint32 ipConfigurableBits = 0x6;
+constexpr quint8 sdkGigETypeCode = 226;
+constexpr quint8 cameraInfoFeatureTypeCode = 0x40;
+
+bool isGigELike(const Camera& camera)
+{
+    return camera.kind() == Camera::Kind::Eth || camera.typeCode() == sdkGigETypeCode;
+}
+
+} // namespace
+
+CameraList::CameraList(QWidget* viewParent, QObject* parent)
+    : QObject(parent)
+{
+    m_proxy = new QSortFilterProxyModel(this);
+    m_proxy->setDynamicSortFilter(true);
+    m_view = new CameraTableView(viewParent);
+    connect(m_view, &CameraTableView::selectedCameraChanged, this, &CameraList::onSelectedCameraChanged);
+
+    m_timer = new QTimer(this);
+    connect(m_timer, &QTimer::timeout, this, &CameraList::onTimeout);
+
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_view, &QWidget::customContextMenuRequested, this, &CameraList::onCustomContextMenu);
+    // The view makes a row current before it reports an activation.
+    connect(m_view, &QAbstractItemView::activated, this,
+            [this] { emit openCamera(QList<Camera>{m_selectedCamera.value()}); });
+
+    m_model = new CameraListModel(this);
+    m_proxy->setSourceModel(m_model);
+    m_view->setModel(m_proxy);
+    m_view->sortByColumn(CameraListModel::DeviceId, Qt::AscendingOrder);
+
+    connect(m_view, &CameraTableView::retranslationRequested, m_model, &CameraListModel::retranslate);
+    connect(m_model, &CameraListModel::listChanged, this, &CameraList::cameraListChanged);
+    connect(m_model, &QAbstractItemModel::modelReset, m_view, &QTableView::resizeColumnsToContents);
+    connect(m_proxy, &QAbstractItemModel::modelReset, this, &CameraList::reselectAfterReset);
+    m_view->resizeColumnsToContents();
+}
+
+CameraList::~CameraList() = default;
+
+QList<Camera> CameraList::availableCameras() const
+{
+    QList<Camera> available;
+    for (const std::shared_ptr<Camera>& camera : m_model->cameraList()) {
+        if (CameraListModel::isAvailable(*camera))
+            available.append(*camera);
+    }
+    return available;
+}
+
+void CameraList::setUpdatesSuspended(bool suspended)
+{
+    m_model->blockSignals(suspended);
+    if (!suspended)
+        m_model->onCameraListChanged();
+}
+
+void CameraList::setAutoRefresh(bool enabled)
+{
+    if (enabled)
+        m_timer->start(refreshIntervalMs);
+    else
+        m_timer->stop();
+}
+
+bool CameraList::isAutoRefreshOn() const
+{
+    return m_timer->isActive();
+}
+
+void CameraList::onSelectedCameraChanged(const camera::optional<Camera>& camera)
+{
+    m_selectedCamera = camera;
+    emit cameraChanged(m_selectedCamera);
+}
+
+void CameraList::onTimeout()
+{
+    if (!m_selectedCamera)
+        return;
+    m_selectedCamera->refreshDeviceInformation();
+    emit cameraChanged(m_selectedCamera);
+}
+
+void CameraList::onCustomContextMenu(const QPoint& pos)
+{
+    QMenu* menu = createContextMenu().release();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(m_view->viewport()->mapToGlobal(pos));
+}
+
+std::unique_ptr<QMenu> CameraList::createContextMenu()
+{
+    auto menu = std::make_unique<QMenu>(m_view);
+    menu->setObjectName(QStringLiteral("cameraContextMenu"));
+    menu->setToolTipsVisible(true);
+    const camera::optional<Camera> camera = m_selectedCamera;
+
+    if (camera && !camera->inUse()) {
+        menu->addAction(QIcon(QStringLiteral(":/images/openplay.png")), tr("&Open this camera"), this,
+                        [this, camera] { emit openCamera(QList<Camera>{*camera}); });
+    }
+    menu->addAction(tr("Open &all available cameras"), this, [this] { emit openCamera(availableCameras()); });
+    menu->addSeparator();
+    if (camera)
+        addCameraActions(*menu, *camera);
+    menu->addAction(tr("&Refresh list"), this, &CameraList::refetch);
+    if (camera)
+        addNetworkActions(*menu, *camera);
+    return menu;
+}
+
+void CameraList::addCameraActions(QMenu& menu, const Camera& camera)
+{
+    menu.addAction(tr("&Identify this camera"), this, [this, camera] { emit identCamera(camera); });
+    if (camera.inUse())
+        return;
+    menu.addSeparator();
+    QAction* info = menu.addAction(tr("&Camera information"), this, [this, camera] { emit openCameraInfo(camera); });
+    info->setEnabled(cameraInfoEnabled(camera));
+    menu.addSeparator();
+}
+
+void CameraList::addNetworkActions(QMenu& menu, const Camera& camera)
+{
+    if (isGigELike(camera)) {
+        QAction* ip = menu.addAction(tr("Manual ETH configuration"), this,
+                                     [this, camera] { emit openIPSettings(camera); });
+        ip->setEnabled(m_abilities.networkToolsAvailable && (camera.deviceControlStatus() & ipConfigurableBits)
+                       && camera.typeCode() != sdkGigETypeCode);
+        menu.addAction(tr("&Add Readonly Device"), this, [this, camera] { emit openMulticastSettings(camera); });
+    }
+    if (camera.kind() == Camera::Kind::ReadOnly)
+        menu.addAction(tr("&Delete"), this, [this, camera] { emit deletePMC(camera); });
+    if (camera.isComPortCapable() && m_abilities.comPortSupportInstalled) {
+        menu.addSeparator();
+        QAction* com = menu.addAction(tr("COM port configuration"), this,
+                                      [this, camera] { emit openComportDlg(camera); });
+        com->setEnabled(m_abilities.elevated);
+        if (!m_abilities.elevated)
+            com->setToolTip(tr("Restart with elevated privileges!"));
+    }
+}
+
+bool CameraList::cameraInfoEnabled(const Camera& camera) const
+{
+    return camera.isUsb3Family()
+           || (camera.typeCode() == cameraInfoFeatureTypeCode && camera.hasCameraInfoFeature());
+}
+
+void CameraList::refetch()
+{
+    m_model->onCameraListChanged();
+    emit cameraListChanged();
+}
+
+void CameraList::reselectAfterReset()
+{
+    if (!m_selectedCamera)
+        return;
+    const QList<std::shared_ptr<Camera>>& cameras = m_model->cameraList();
+    for (int row = 0; row < cameras.size(); ++row) {
+        if (cameras.at(row)->deviceId() == m_selectedCamera->deviceId()) {
+            m_view->setCurrentIndex(m_proxy->mapFromSource(m_model->index(row, 0)));
+            return;
+        }
+    }
+    onSelectedCameraChanged(std::nullopt);
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "camera/camera.h"
+
+#include <QList>
+#include <QObject>
+
+#include <memory>
+
+class CameraListModel;
+class CameraTableView;
+class QMenu;
+class QSortFilterProxyModel;
+class QTimer;
+
+// The main window's camera list: the table view over a sorting proxy of the
+// camera list model. It turns selection, activation, the context menu and the
+// refresh timer into signals for the window.
+class CameraList : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the context menu needs to know about the host.
+    struct HostAbilities
+    {
+        bool networkToolsAvailable = true;
+        bool comPortSupportInstalled = false;
+        bool elevated = false;
+    };
+
+    static constexpr int refreshIntervalMs = 900;
+
+    // The view becomes a child of viewParent. Throws CirroException when the
+    // driver refuses the device-list events.
+    explicit CameraList(QWidget* viewParent, QObject* parent = nullptr);
+    ~CameraList() override;
+
+    CameraTableView* view() const { return m_view; }
+    CameraListModel* model() const { return m_model; }
+    const camera::optional<Camera>& selectedCamera() const { return m_selectedCamera; }
+    QList<Camera> availableCameras() const;
+
+    void setHostAbilities(const HostAbilities& abilities) { m_abilities = abilities; }
+    // Blocks the model's signals; unblocking fetches the list at once.
+    void setUpdatesSuspended(bool suspended);
+    void setAutoRefresh(bool enabled);
+    bool isAutoRefreshOn() const;
+    // The context menu for the current selection; the caller owns it.
+    std::unique_ptr<QMenu> createContextMenu();
+
+signals:
+    void cameraChanged(const camera::optional<Camera>& camera);
+    void openCamera(const QList<Camera>& cameras);
+    void identCamera(const Camera& camera);
+    void openIPSettings(const Camera& camera);
+    void openMulticastSettings(const Camera& camera);
+    void openCameraInfo(const Camera& camera);
+    void deletePMC(const Camera& camera);
+    void cameraListChanged();
+    void openComportDlg(const Camera& camera);
+
+public slots:
+    void onSelectedCameraChanged(const camera::optional<Camera>& camera);
+    void onTimeout();
+    void onCustomContextMenu(const QPoint& pos);
+
+private:
+    void refetch();
+    void reselectAfterReset();
+    void addCameraActions(QMenu& menu, const Camera& camera);
+    void addNetworkActions(QMenu& menu, const Camera& camera);
+    bool cameraInfoEnabled(const Camera& camera) const;
+
+    CameraTableView* m_view = nullptr;
+    QSortFilterProxyModel* m_proxy = nullptr;
+    CameraListModel* m_model = nullptr;
+    QTimer* m_timer = nullptr;
+    camera::optional<Camera> m_selectedCamera;
+    HostAbilities m_abilities;
+};

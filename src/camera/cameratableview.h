@@ -1,0 +1,33 @@
+#pragma once
+
+#include "camera/camera.h"
+
+#include <QTableView>
+
+// The camera table. Besides showing the list it remembers the camera of the
+// current row, restarts that camera on Ctrl+Alt+R and asks for new header
+// texts when the language changes.
+class CameraTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit CameraTableView(QWidget* parent = nullptr);
+
+    const camera::optional<Camera>& selection() const { return m_selection; }
+    // A reset forgets the current row; the owner makes a row current again.
+    void reset() override;
+
+signals:
+    // The camera of the new current row; empty when no row is current.
+    void selectedCameraChanged(const camera::optional<Camera>& camera);
+    void retranslationRequested();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    camera::optional<Camera> m_selection;
+};
