@@ -152,9 +152,9 @@ void Camera::refreshDeviceInformation()
 
 bool Camera::readDeviceInformation()
 {
-    pv_DeviceInformation info{};
-    m_devInfoResult = pv_DeviceInfo(m_deviceId | PV_DEVICE_ID_FLAG, PV_DEVINFO_READ, &info, sizeof info);
-    m_info = m_devInfoResult == PV_OK ? info : pv_DeviceInformation{};
+    m_devInfoResult = pv_DeviceInfo(m_deviceId | PV_DEVICE_ID_FLAG, PV_DEVINFO_READ, &m_info, sizeof m_info);
+    if (m_devInfoResult != PV_OK)
+        m_info = pv_DeviceInformation{};
     return m_devInfoResult == PV_OK;
 }
 
