@@ -1,0 +1,623 @@
+#include "details/deviceinfomodel.h"
+#include "details/flagtables.h"
+#include "network/networkadapters.h"
+
+#include "deviceinfotestsupport.h"
+#include "simdriverfixture.h"
+#include "sysfsfixture.h"
+
+#include <QAbstractItemModelTester>
+#include <QLoggingCategory>
+#include <QNetworkInterface>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace DeviceInfoTestSupport;
+
+Q_DECLARE_METATYPE(std::optional<NetworkAdapter>)
+
+namespace {
+
+Camera fromDriver(quint32 deviceId)
+{
+    for (const pv_CameraListEntry& entry : SimDriverFixture::list()) {
+        if (entry.deviceId == deviceId)
+            return Camera(entry, 0);
+    }
+    return Camera();
+}
+
+Camera usbAt(const QString& location)
+{
+    return usb([&](Record& record) { setText(record.usbLocation, location); });
+}
+
+QString valueAt(const DeviceInfoModel& model, const QStringList& path)
+{
+    const QModelIndex index = rowAt(model, path, 1);
+    return index.isValid() ? index.data().toString() : QStringLiteral("<no row>");
+}
+
+// label=value of the path rows: the USB group's row after "Link speed" and
+// the chain below it.
+QStringList usbRows(const DeviceInfoModel& model)
+{
+    QStringList rows;
+    for (QModelIndex index = model.index(1, 0, rowAt(model, {"Device", "USB"})); index.isValid();
+         index = model.index(0, 0, index))
+        rows << index.data().toString() + "=" + index.siblingAtColumn(1).data().toString();
+    return rows;
+}
+
+NetworkAdapter hostRecord()
+{
+    NetworkAdapter adapter;
+    adapter.humanReadableName = "enp3s0";
+    adapter.interfaceName = "enp3s0";
+    adapter.description = "Intel Corporation I210 Gigabit Network Connection";
+    adapter.hardwareAddress = "02:C1:5E:00:00:0A";
+    adapter.ipv4Address = QHostAddress("10.1.2.3");
+    adapter.ipv4Netmask = QHostAddress("255.255.0.0");
+    adapter.dhcp = true;
+    adapter.driverVersion = "5.15.0-k";
+    adapter.driverDate = "3-4-2024";
+    return adapter;
+}
+
+void onAdapter(Record& record, std::initializer_list<quint8> mac)
+{
+    std::copy(mac.begin(), mac.end(), record.info.u.eth.adapterMac);
+    std::strncpy(record.info.u.eth.adapterName, "simnet0", sizeof record.info.u.eth.adapterName);
+    setText(record.adapterDescription, "Virtual GigE adapter simnet0");
+    setText(record.adapterDriverVersion, "4.97.1203");
+    setText(record.adapterDriverDate, "6-12-2025");
+    record.info.u.eth.adapterIp = ipWord(192, 168, 50, 1);
+    record.info.u.eth.adapterMask = ipWord(255, 255, 255, 0);
+}
+
+} // namespace
+
+class TestDeviceInfoModel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void rowsByKind_data();
+    void rowsByKind();
+    void flagRowsFollowTheTables();
+    void values_data();
+    void values();
+    void adapterRows_data();
+    void adapterRows();
+    void hostIsAskedOncePerAdapter();
+    void adapterOfThisHost();
+
+    void rebuildOrRefresh_data();
+    void rebuildOrRefresh();
+    void noCameraEmptiesTheTree();
+    void passesTheModelTester_data();
+    void passesTheModelTester();
+
+    void pathRows_data();
+    void pathRows();
+    void newTopologyAsksForRebuildOnlyWhenThePathChanged();
+    void laterTopologyJobReplacesEarlier();
+
+private:
+    QTemporaryDir m_dir;
+    QString m_machine; // camera "1-1.2" behind a hub, "2-1" on a root hub
+    QString m_moved;   // camera "1-1.2" on a second hub
+};
+
+void TestDeviceInfoModel::initTestCase()
+{
+    QLoggingCategory::setFilterRules("cirro.details.usbtopology.debug=false");
+    Camera::registerMetaTypes();
+    QVERIFY(m_dir.isValid());
+
+    SysfsFixture machine(m_dir.filePath("machine"));
+    const QString xhci = machine.addPciController("0000:00:14.0", {});
+    const QString usb1 = machine.addRootHub(xhci, 1, 4);
+    const QString usb2 = machine.addRootHub(xhci, 2, 4, " 3.00");
+    const QString hub = machine.addDevice(usb1, 1, {0x05e3, 0x0608, "USB2.0 Hub", {}, "480", 4, {}, {}});
+    machine.addDevice(hub, 2, {});
+    machine.addDevice(usb2, 1, {});
+    QVERIFY(machine.ok());
+    m_machine = machine.root();
+
+    SysfsFixture moved(m_dir.filePath("moved"));
+    const QString movedXhci = moved.addPciController("0000:00:14.0", {});
+    const QString movedUsb1 = moved.addRootHub(movedXhci, 1, 4);
+    const QString movedHub = moved.addDevice(movedUsb1, 1, {0x2109, 0x2813, "VIA Hub", {}, "480", 4, {}, {}});
+    moved.addDevice(movedHub, 2, {});
+    QVERIFY(moved.ok());
+    m_moved = moved.root();
+}
+
+void TestDeviceInfoModel::init()
+{
+    QVERIFY(SimDriverFixture::reset());
+}
+
+void TestDeviceInfoModel::rowsByKind_data()
+{
+    QTest::addColumn<Camera>("camera");
+    QTest::addColumn<QStringList>("top");
+    QTest::addColumn<QString>("driverVersion");
+
+    const QStringList eth{"Device", "Local network adapter", "Local driver"};
+    const QStringList usbTop{"Device", "Local driver"};
+    QTest::newRow("USB") << fromDriver(0) << usbTop << "USB version";
+    QTest::newRow("GigE") << fromDriver(1000) << eth << "ETH version";
+    QTest::newRow("read-only") << fromDriver(1500) << eth << "ETH version";
+    QTest::newRow("SDK U3V") << fromDriver(2000) << usbTop << "USB version";
+    QTest::newRow("SDK GEV") << fromDriver(2001) << eth << "ETH version";
+    QTest::newRow("unknown kind") << fromDriver(2500) << eth << "ETH version";
+    QTest::newRow("GigE number, U3V type") << makeCamera(1000, 225, 3, "X") << usbTop << "USB version";
+    QTest::newRow("USB number, GigE type") << makeCamera(999, 138, 3, "X") << usbTop << "USB version";
+}
+
+void TestDeviceInfoModel::rowsByKind()
+{
+    QFETCH(Camera, camera);
+    QFETCH(QStringList, top);
+    QFETCH(QString, driverVersion);
+
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    model.setSysfsRoot(m_dir.filePath("none"));
+    model.Update(&camera, false);
+    QCOMPARE(childLabels(model), top);
+    QCOMPARE(childLabels(model, rowAt(model, {"Local driver"})),
+             QStringList({driverVersion, "Min. compatible starter FW", "Max. compatible starter FW"}));
+    const QStringList deviceGroups = childLabels(model, rowAt(model, {"Device"}));
+    QCOMPARE(deviceGroups, top.size() == 3 ? QStringList({"General", "Hardware", "Network"})
+                                           : QStringList({"General", "USB"}));
+}
+
+void TestDeviceInfoModel::flagRowsFollowTheTables()
+{
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    const Camera camera = gige([](Record& record) {
+        record.info.deviceStatus = 0x400;
+        record.info.deviceControlStatus = 0x80000000;
+    });
+    model.Update(&camera, false);
+    const std::pair<QString, FlagWord> groups[] = {{"Device status flags", FlagWord::DeviceStatus},
+                                                   {"Device control status", FlagWord::DeviceControl}};
+    for (const auto& [label, word] : groups) {
+        const QModelIndex parent = rowAt(model, {"Device", "General", label});
+        QVERIFY(parent.isValid());
+        const FlagTable table = FlagTables::of(word);
+        QCOMPARE(model.rowCount(parent), int(table.size()));
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            QCOMPARE(model.index(row, 0, parent).data().toString(), table[std::size_t(row)].name);
+            const bool set = table[std::size_t(row)].mask == (word == FlagWord::DeviceStatus ? 0x400u : 0x80000000u);
+            QCOMPARE(model.index(row, 1, parent).data().toString(), QString(set ? "true" : "false"));
+        }
+    }
+}
+
+void TestDeviceInfoModel::values_data()
+{
+    QTest::addColumn<bool>("eth");
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<Tweak>("tweak");
+    QTest::addColumn<QString>("value");
+
+    const QStringList general{"Device", "General"};
+    const QStringList network{"Device", "Network"};
+    const QStringList adapter{"Local network adapter"};
+    auto eth = [](Record& record) -> pv_EthDeviceInfo& { return record.info.u.eth; };
+    auto eeprom = [eth](const char* text) {
+        // The field is not terminated when the text fills it.
+        return Tweak([=](Record& record) {
+            std::memcpy(eth(record).userSpace, text, std::min<std::size_t>(std::strlen(text), 8));
+        });
+    };
+
+    QTest::newRow("starter version padded") << true << general + QStringList{"Starter firmware version"}
+        << Tweak([](Record& r) { r.info.starterFirmware = PV_VERSION(3, 2, 1); }) << "3.02.0001";
+    QTest::newRow("runtime version") << true << general + QStringList{"Runtime firmware version"}
+        << Tweak([](Record& r) { r.info.runtimeFirmware = PV_VERSION(4, 97, 1203); }) << "4.97.1203";
+    QTest::newRow("largest version") << true << QStringList{"Local driver", "ETH version"}
+        << Tweak([](Record& r) { r.info.driverVersion = 0xFFFFFFFF; }) << "255.255.65535";
+    QTest::newRow("min starter") << true << QStringList{"Local driver", "Min. compatible starter FW"}
+        << Tweak([](Record& r) { r.info.minStarterFirmware = PV_VERSION(3, 0, 0); }) << "3.00.0000";
+    QTest::newRow("max starter, USB") << false << QStringList{"Local driver", "Max. compatible starter FW"}
+        << Tweak([](Record& r) { r.info.maxStarterFirmware = PV_VERSION(3, 9, 9999); }) << "3.09.9999";
+    QTest::newRow("USB driver version") << false << QStringList{"Local driver", "USB version"}
+        << Tweak([](Record& r) { r.info.driverVersion = PV_VERSION(10, 11, 12); }) << "10.11.0012";
+
+    const QStringList eepromRow = general + QStringList{"User EEPROM (8 chars)"};
+    QTest::newRow("EEPROM empty") << true << eepromRow << eeprom("") << "";
+    QTest::newRow("EEPROM 7 chars") << true << eepromRow << eeprom("ABCDEFG") << "ABCDEFG";
+    QTest::newRow("EEPROM full 8 chars") << true << eepromRow << eeprom("ABCDEFGH") << "ABCDEFGH...";
+    QTest::newRow("EEPROM cut") << true << eepromRow << eeprom("Line 4 left") << "Line 4 l...";
+
+    const QStringList comRow = general + QStringList{"COM port number"};
+    QTest::newRow("COM port 0") << true << comRow << Tweak() << "100";
+    QTest::newRow("COM port negative") << true << comRow << Tweak([](Record& r) { r.info.comPortOffset = -5; })
+                                       << "95";
+    QTest::newRow("COM port USB") << false << comRow << Tweak([](Record& r) { r.info.comPortOffset = 7; }) << "107";
+
+    QTest::newRow("temperature") << true << general + QStringList{"Camera temperature"}
+        << Tweak([](Record& r) { r.info.temperature = 0x0298; }) << QString::fromUtf8("41.5°C (106.7°F)");
+    QTest::newRow("no sensor, USB") << false << general + QStringList{"Camera temperature"}
+        << Tweak([](Record& r) { r.info.temperature = 0x0FF9; }) << "no sensor";
+    QTest::newRow("status word in decimal") << true << general + QStringList{"Device status flags"}
+        << Tweak([](Record& r) { r.info.deviceStatus = 0x101; }) << "0x257";
+    QTest::newRow("control word in decimal") << true << general + QStringList{"Device control status"}
+        << Tweak([](Record& r) { r.info.deviceControlStatus = 0x10; }) << "0x16";
+
+    QTest::newRow("sensor ID") << true << QStringList{"Device", "Hardware", "Sensor ID"}
+        << Tweak([](Record& r) { r.sensorId = 66; }) << "66";
+    QTest::newRow("sensor ID, USB") << false << general + QStringList{"Sensor ID"}
+        << Tweak([](Record& r) { r.sensorId = 67; }) << "67";
+    QTest::newRow("device type") << false << general + QStringList{"Device type"} << Tweak() << "98";
+    QTest::newRow("image memory") << true << QStringList{"Device", "Hardware", "Image memory size"}
+        << Tweak([](Record& r) { r.info.imageMemoryMB = 256; }) << "256 MB";
+
+    QTest::newRow("camera MAC") << true << network + QStringList{"MAC address"}
+        << Tweak([eth](Record& r) { std::fill_n(eth(r).macAddress, 6, 0x1c); }) << "1c-1c-1c-1c-1c-1c";
+    QTest::newRow("camera MAC, sensor defect") << true << network + QStringList{"MAC address"} << Tweak()
+                                               << "Invalid - temperature sensor defect!";
+    QTest::newRow("current IP") << true << network + QStringList{"Current IP address"}
+        << Tweak([eth](Record& r) { eth(r).currentIp = ipWord(192, 168, 50, 10); }) << "192.168.50.10";
+    QTest::newRow("no current IP") << true << network + QStringList{"Current IP address"} << Tweak() << "";
+    QTest::newRow("no persistent mask") << true << network + QStringList{"Persistent IP subnetmask"} << Tweak()
+                                        << "";
+    QTest::newRow("multicast") << true << network + QStringList{"Multicast IP address"}
+        << Tweak([eth](Record& r) { eth(r).multicastIp = ipWord(239, 1, 1, 10); }) << "239.1.1.10";
+    QTest::newRow("DHCP FSM in hex") << true << network + QStringList{"DHCP FSM state"}
+        << Tweak([eth](Record& r) { eth(r).dhcpFsmState = 0x1a; }) << "0x1a";
+    QTest::newRow("DHCP state in hex") << true << network + QStringList{"DHCP state"}
+        << Tweak([eth](Record& r) { eth(r).dhcpState = 0x15; }) << "0x15";
+    QTest::newRow("DHCP enabled") << true << network + QStringList{"DHCP state", "Enabled"}
+        << Tweak([eth](Record& r) { eth(r).dhcpState = 0x5; }) << "true";
+    QTest::newRow("DHCP supported only") << true << network + QStringList{"DHCP state", "Enabled"}
+        << Tweak([eth](Record& r) { eth(r).dhcpState = 0x3; }) << "false";
+    QTest::newRow("lease") << true << network + QStringList{"DHCP lease time"}
+        << Tweak([eth](Record& r) { eth(r).dhcpLeaseTime = 86400; }) << "86400";
+    QTest::newRow("no paired MAC") << true << network + QStringList{"Paired host MAC address"} << Tweak() << "";
+    QTest::newRow("paired MAC") << true << network + QStringList{"Paired host MAC address"}
+        << Tweak([eth](Record& r) { eth(r).pairedHostMac[5] = 1; }) << "00-00-00-00-00-01";
+    QTest::newRow("camera link") << true << network + QStringList{"Link"}
+        << Tweak([](Record& r) { r.info.linkSpeed = 1000; }) << "1000 Mbits/s";
+    QTest::newRow("USB link") << false << QStringList{"Device", "USB", "Link speed"}
+        << Tweak([](Record& r) { r.info.linkSpeed = 480; }) << "High Speed (USB 2.0)";
+
+    QTest::newRow("adapter range shows zero") << true << adapter + QStringList{"Network", "IP range begin"}
+                                              << Tweak() << "0.0.0.0";
+    QTest::newRow("adapter range valid") << true << adapter + QStringList{"Network", "IP range valid"}
+        << Tweak([eth](Record& r) { eth(r).adapterRangeValid = 1; }) << "true";
+    QTest::newRow("known devices") << true << adapter + QStringList{"General", "Number of known devices"}
+        << Tweak([eth](Record& r) { eth(r).adapterDevicesKnown = 6; }) << "6";
+    QTest::newRow("packet filter") << true << adapter + QStringList{"Settings", "Packet filter"}
+        << Tweak([eth](Record& r) { eth(r).adapterPacketFilter = 1; }) << "Block CRGET";
+    QTest::newRow("adapter multicast") << true << adapter + QStringList{"Settings", "Multicast Enabled"}
+                                       << Tweak() << "false";
+    QTest::newRow("adapter link") << true << adapter + QStringList{"Settings", "Adapter link speed"}
+        << Tweak([eth](Record& r) { eth(r).adapterLinkSpeed = 100; }) << "100 Mbit/s";
+}
+
+void TestDeviceInfoModel::values()
+{
+    QFETCH(bool, eth);
+    QFETCH(QStringList, path);
+    QFETCH(Tweak, tweak);
+    QFETCH(QString, value);
+
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    model.setSysfsRoot(m_dir.filePath("none"));
+    const Camera camera = eth ? gige(tweak) : usb(tweak);
+    model.Update(&camera, false);
+    QCOMPARE(valueAt(model, path), value);
+}
+
+void TestDeviceInfoModel::adapterRows_data()
+{
+    QTest::addColumn<std::optional<NetworkAdapter>>("host");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("value");
+
+    const std::optional<NetworkAdapter> none;
+    NetworkAdapter noAddress = hostRecord();
+    noAddress.ipv4Address = QHostAddress();
+    noAddress.ipv4Netmask = QHostAddress();
+    noAddress.description.clear();
+
+    QTest::newRow("record: device") << none << "Device" << "Virtual GigE adapter simnet0";
+    QTest::newRow("record: designation") << none << "Designation" << "simnet0";
+    QTest::newRow("record: driver version") << none << "Driver version" << "4.97.1203";
+    QTest::newRow("record: driver date") << none << "Driver date" << "6-12-2025";
+    QTest::newRow("record: DHCP") << none << "DHCP enabled" << "false";
+    QTest::newRow("record: MAC") << none << "MAC address" << "02-c1-5e-00-00-0a";
+    QTest::newRow("record: IP") << none << "IP address" << "192.168.50.1";
+    QTest::newRow("record: mask") << none << "IP subnetmask" << "255.255.255.0";
+
+    const std::optional<NetworkAdapter> host = hostRecord();
+    QTest::newRow("host: device") << host << "Device" << "Intel Corporation I210 Gigabit Network Connection";
+    QTest::newRow("host: designation") << host << "Designation" << "enp3s0";
+    QTest::newRow("host: driver version") << host << "Driver version" << "5.15.0-k";
+    QTest::newRow("host: driver date") << host << "Driver date" << "3-4-2024";
+    QTest::newRow("host: DHCP") << host << "DHCP enabled" << "true";
+    QTest::newRow("host: MAC") << host << "MAC address" << "02-c1-5e-00-00-0a";
+    QTest::newRow("host: IP") << host << "IP address" << "10.1.2.3";
+    QTest::newRow("host: mask") << host << "IP subnetmask" << "255.255.0.0";
+    QTest::newRow("host without IPv4: IP") << std::optional(noAddress) << "IP address" << "192.168.50.1";
+    QTest::newRow("host without text: device") << std::optional(noAddress) << "Device"
+                                               << "Virtual GigE adapter simnet0";
+}
+
+void TestDeviceInfoModel::adapterRows()
+{
+    QFETCH(std::optional<NetworkAdapter>, host);
+    QFETCH(QString, label);
+    QFETCH(QString, value);
+
+    QStringList asked;
+    DeviceInfoModel model(nullptr, [&](const QString& mac) {
+        asked << mac;
+        return host;
+    });
+    const Camera camera = gige([](Record& record) { onAdapter(record, {0x02, 0xc1, 0x5e, 0, 0, 0x0a}); });
+    model.Update(&camera, false);
+    QCOMPARE(asked, QStringList{"02:C1:5E:00:00:0A"});
+    const QString group = label.contains("IP") || label.startsWith("MAC") ? "Network" : "General";
+    QCOMPARE(valueAt(model, {"Local network adapter", group, label}), value);
+}
+
+void TestDeviceInfoModel::hostIsAskedOncePerAdapter()
+{
+    QStringList asked;
+    DeviceInfoModel model(nullptr, [&](const QString& mac) {
+        asked << mac;
+        return std::optional<NetworkAdapter>();
+    });
+    const Camera noAdapter = gige();
+    model.Update(&noAdapter, false);
+    QVERIFY2(asked.isEmpty(), "a camera without adapter must not find the loopback interface");
+
+    const Camera first = gige([](Record& record) { onAdapter(record, {0x02, 0, 0, 0, 0, 1}); });
+    const Camera second = gige([](Record& record) { onAdapter(record, {0x02, 0, 0, 0, 0, 2}); });
+    model.Update(&first, false);
+    model.Update(&first, false);
+    model.Update(&second, false);
+    model.Update(&second, false);
+    QCOMPARE(asked, QStringList({"02:00:00:00:00:01", "02:00:00:00:00:02"}));
+    model.Update(&second, true);
+    QCOMPARE(asked.size(), 3);
+}
+
+// The real inventory, read-only: an adapter of this machine is found by its MAC.
+void TestDeviceInfoModel::adapterOfThisHost()
+{
+    QNetworkInterface found;
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
+        if (!(interface.flags() & QNetworkInterface::IsLoopBack)
+            && interface.hardwareAddress().size() == 17
+            && interface.hardwareAddress() != "00:00:00:00:00:00") {
+            found = interface;
+            break;
+        }
+    }
+    if (!found.isValid())
+        QSKIP("this machine has no network adapter with a MAC address");
+    const QStringList bytes = found.hardwareAddress().split(':');
+    const Camera camera = gige([&](Record& record) {
+        for (int i = 0; i < 6; ++i)
+            record.info.u.eth.adapterMac[i] = quint8(bytes.at(i).toUInt(nullptr, 16));
+    });
+    DeviceInfoModel model;
+    model.Update(&camera, false);
+    QCOMPARE(valueAt(model, {"Local network adapter", "General", "Designation"}), found.humanReadableName());
+    const QString description = getAdapterDescription(found.name());
+    QCOMPARE(valueAt(model, {"Local network adapter", "General", "Device"}), description);
+}
+
+void TestDeviceInfoModel::rebuildOrRefresh_data()
+{
+    QTest::addColumn<quint32>("cameraId");
+    QTest::addColumn<QString>("serial");
+    QTest::addColumn<bool>("force");
+    QTest::addColumn<bool>("rebuilt");
+
+    QTest::newRow("same camera") << 10u << "5201000010" << false << false;
+    QTest::newRow("new ID, same serial") << 11u << "5201000010" << false << false;
+    QTest::newRow("same ID, new serial") << 10u << "5201000099" << false << false;
+    QTest::newRow("new ID and serial") << 11u << "5201000099" << false << true;
+    QTest::newRow("same camera, forced") << 10u << "5201000010" << true << true;
+}
+
+void TestDeviceInfoModel::rebuildOrRefresh()
+{
+    QFETCH(quint32, cameraId);
+    QFETCH(QString, serial);
+    QFETCH(bool, force);
+    QFETCH(bool, rebuilt);
+
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    const Camera first = gige();
+    model.Update(&first, false);
+    const QPersistentModelIndex com = rowAt(model, {"Device", "General", "COM port number"}, 1);
+    const QPersistentModelIndex paired = rowAt(model, {"Device", "General", "Device status flags", "Paired"}, 1);
+    QCOMPARE(com.data().toString(), QString("100"));
+    QCOMPARE(paired.data().toString(), QString("false"));
+
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    const Camera second = makeCamera(1000, 138, cameraId, serial, [](Record& record) {
+        record.info.comPortOffset = 3;
+        record.info.deviceStatus = 0x400;
+    });
+    model.Update(&second, force);
+
+    QCOMPARE(resets.count(), rebuilt ? 1 : 0);
+    QCOMPARE(inserted.count() + removed.count(), 0);
+    QCOMPARE(com.isValid(), !rebuilt);
+    if (rebuilt) {
+        QVERIFY(changes.isEmpty());
+    } else {
+        QCOMPARE(com.data().toString(), QString("103"));
+        QCOMPARE(paired.data().toString(), QString("true"));
+        // Every changed range lies under one parent and covers the values.
+        bool comReported = false;
+        for (const QList<QVariant>& change : changes) {
+            const QModelIndex topLeft = change.at(0).toModelIndex();
+            const QModelIndex bottomRight = change.at(1).toModelIndex();
+            QVERIFY(topLeft.isValid() && bottomRight.isValid());
+            QCOMPARE(topLeft.parent(), bottomRight.parent());
+            comReported |= topLeft.parent() == com.parent() && topLeft.row() <= com.row()
+                           && bottomRight.row() >= com.row() && bottomRight.column() == 1;
+        }
+        QVERIFY(comReported);
+    }
+    QCOMPARE(valueAt(model, {"Device", "General", "COM port number"}), QString("103"));
+}
+
+void TestDeviceInfoModel::noCameraEmptiesTheTree()
+{
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    model.Update(nullptr, false);
+    QCOMPARE(resets.count(), 0);
+
+    const Camera camera = gige();
+    model.Update(&camera, false);
+    QCOMPARE(resets.count(), 1);
+    model.Update(nullptr, false);
+    QCOMPARE(resets.count(), 2);
+    QCOMPARE(model.rowCount(), 0);
+    model.Update(nullptr, true);
+    QCOMPARE(resets.count(), 2);
+
+    // The camera shown before is forgotten: it comes back as a new tree.
+    model.Update(&camera, false);
+    QCOMPARE(resets.count(), 3);
+    QCOMPARE(model.rowCount(), 3);
+}
+
+void TestDeviceInfoModel::passesTheModelTester_data()
+{
+    QTest::addColumn<quint32>("deviceId");
+    QTest::newRow("GigE") << 1000u;
+    QTest::newRow("USB") << 1u;
+    QTest::newRow("no camera") << 0xFFFFFFFFu;
+}
+
+void TestDeviceInfoModel::passesTheModelTester()
+{
+    QFETCH(quint32, deviceId);
+    const std::optional<Camera> camera =
+        deviceId == 0xFFFFFFFFu ? std::nullopt : std::optional<Camera>(fromDriver(deviceId));
+    const Camera* shown = camera ? &*camera : nullptr;
+
+    DeviceInfoModel model;
+    model.setSysfsRoot(m_machine);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QSignalSpy needed(&model, &DeviceInfoModel::updateNeeded);
+    model.Update(shown, false);
+    model.Update(shown, false);
+    if (shown && shown->kind() == Camera::Kind::Usb) {
+        QVERIFY(needed.wait(5000));
+        model.Update(shown, true);
+        QVERIFY(rowAt(model, {"Device", "USB", "1. Hub"}).isValid());
+    }
+    model.Update(shown, true);
+    const Camera other = fromDriver(deviceId == 1000 ? 0 : 1000);
+    model.Update(&other, true);
+    model.Update(nullptr, false);
+}
+
+void TestDeviceInfoModel::pathRows_data()
+{
+    QTest::addColumn<QString>("location");
+    QTest::addColumn<QStringList>("rows");
+
+    // The controller's name depends on the host's PCI id list.
+    const QString named = "%controller";
+    QTest::newRow("behind a hub") << "1-1.2"
+                                  << QStringList{"1. Hub=USB2.0 Hub (Port 2)",
+                                                 "2. Hub=USB Root Hub (USB 2.0) (Port 1)",
+                                                 "3. Controller=" + named};
+    QTest::newRow("on a root hub") << "2-1"
+                                   << QStringList{"1. Hub=USB Root Hub (USB 3.0) (Port 1)",
+                                                  "2. Controller=" + named};
+    QTest::newRow("not in the tree") << "3-1" << QStringList();
+    QTest::newRow("no location") << "" << QStringList();
+}
+
+void TestDeviceInfoModel::pathRows()
+{
+    QFETCH(QString, location);
+    QFETCH(QStringList, rows);
+
+    DeviceInfoModel model;
+    model.setSysfsRoot(m_machine);
+    QSignalSpy needed(&model, &DeviceInfoModel::updateNeeded);
+    const Camera camera = usbAt(location);
+    model.Update(&camera, false);
+    QCOMPARE(usbRows(model), QStringList());
+    QTRY_VERIFY(model.usbTopology());
+    QCOMPARE(needed.count(), rows.isEmpty() ? 0 : 1);
+    if (!rows.isEmpty())
+        QCOMPARE(needed.first().first().toBool(), true);
+    model.Update(&camera, true);
+    rows.replaceInStrings("%controller", model.usbTopology()->controllers().front().description);
+    QCOMPARE(usbRows(model), rows);
+}
+
+void TestDeviceInfoModel::newTopologyAsksForRebuildOnlyWhenThePathChanged()
+{
+    DeviceInfoModel model;
+    model.setSysfsRoot(m_machine);
+    const Camera camera = usbAt("1-1.2");
+    model.Update(&camera, false);
+    QTRY_VERIFY(model.usbTopology());
+    model.Update(&camera, true);
+    QSignalSpy needed(&model, &DeviceInfoModel::updateNeeded);
+
+    auto topologyReplaced = [&model](const QString& root) {
+        const auto before = model.usbTopology();
+        model.setSysfsRoot(root);
+        model.UpdateUSBTopology();
+        return QTest::qWaitFor([&] { return model.usbTopology() != before; }, 5000);
+    };
+    QVERIFY(topologyReplaced(m_machine));
+    QCOMPARE(needed.count(), 0);
+    QVERIFY(topologyReplaced(m_moved));
+    QCOMPARE(needed.count(), 1);
+    model.Update(&camera, true);
+    QCOMPARE(usbRows(model).first(), QString("1. Hub=VIA Hub (Port 2)"));
+
+    const Camera gigE = gige();
+    model.Update(&gigE, true);
+    QVERIFY(topologyReplaced(m_machine));
+    QCOMPARE(needed.count(), 1);
+}
+
+// The first job's result is never taken once a second one is watched.
+void TestDeviceInfoModel::laterTopologyJobReplacesEarlier()
+{
+    DeviceInfoModel model;
+    model.setSysfsRoot(m_machine);
+    model.UpdateUSBTopology();
+    model.setSysfsRoot(m_moved);
+    model.UpdateUSBTopology();
+    QTRY_VERIFY(model.usbTopology());
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    const auto location = model.usbTopology()->locate("1-1.2");
+    QVERIFY(location);
+    QCOMPARE(location->hubs.front().hubDescription, QString("VIA Hub"));
+    QVERIFY(!model.usbTopology()->locate("2-1"));
+}
+
+QTEST_MAIN(TestDeviceInfoModel)
+#include "tst_deviceinfomodel.moc"
