@@ -12,10 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cmath>
-#include <vector>
+#include "iterationtimes.h"
 
 namespace {
 
@@ -35,12 +32,6 @@ const SysfsFixture& grid()
     return fixture;
 }
 
-double percentile(const std::vector<double>& sorted, double fraction)
-{
-    const auto rank = std::size_t(std::ceil(fraction * double(sorted.size())));
-    return sorted[std::clamp<std::size_t>(rank, 1, sorted.size()) - 1];
-}
-
 void buildTopology(benchmark::State& state, const QString& pciIds)
 {
     const SysfsFixture& fixture = grid();
@@ -48,17 +39,14 @@ void buildTopology(benchmark::State& state, const QString& pciIds)
         state.SkipWithError("cannot write the sysfs tree");
         return;
     }
-    std::vector<double> millis;
+    IterationTimes times;
     for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
+        const auto start = IterationTimes::Clock::now();
         auto topology = UsbTopology::build(fixture.root(), pciIds);
         benchmark::DoNotOptimize(topology);
-        millis.push_back(std::chrono::duration<double, std::milli>(
-                             std::chrono::steady_clock::now() - start).count());
+        times.add(start);
     }
-    std::sort(millis.begin(), millis.end());
-    state.counters["median_ms"] = percentile(millis, 0.5);
-    state.counters["p99_ms"] = percentile(millis, 0.99);
+    times.report(state, "ms", 1e3);
     state.counters["devices"] = controllers * hubsPerController * (1 + portsPerHub);
 }
 
