@@ -3,28 +3,69 @@
 #include "app/apiversioncheck.h"
 #include "app/commandline.h"
 #include "app/identity.h"
+#include "app/qcirrocameramanager.h"
+#include "camera/cirroexception.h"
+#include "common/corestates.h"
 
 #include <cirro_api.h>
 
 #include <QApplication>
+#include <QMessageBox>
+
+#include <cstdio>
 
 namespace Startup {
+
+namespace {
+
+// The driver dialogs of the two options are not part of this build yet.
+void openRequestedDialog(CommandLine::Dialog dialog)
+{
+    if (dialog == CommandLine::Dialog::None)
+        return;
+    const char* name = dialog == CommandLine::Dialog::AdditionalFunctions ? "Additional functions" : "Daemon control";
+    std::fprintf(stderr, "The \"%s\" dialog is not available in this version.\n", name);
+}
+
+int runMainWindow(const CommandLine& commandLine)
+{
+    try {
+        QCirroCameramanager window;
+        window.show();
+        openRequestedDialog(commandLine.dialogToOpen());
+        return QApplication::exec();
+    } catch (const CirroException& e) {
+        QMessageBox::critical(nullptr, Identity::applicationName(),
+                              QCoreApplication::translate("main",
+                                                          "The camera driver refused the camera list's device "
+                                                          "events.\nReturn code: %1")
+                                  .arg(e.code()));
+        return 1;
+    }
+}
+
+} // namespace
 
 void prepareProcess()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
 int run(const QStringList& arguments)
 {
     Identity::applyTo(*QCoreApplication::instance());
+    Camera::registerMetaTypes();
+    CoreStates::registerMetaType();
 
     CommandLine commandLine;
     commandLine.process(arguments);
 
-    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
+    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion())) {
         ApiVersionCheck::showRefusal();
-    return 0;
+        return 0;
+    }
+    return runMainWindow(commandLine);
 }
 
 } // namespace Startup

@@ -87,11 +87,17 @@ void CameraList::onSelectedCameraChanged(const camera::optional<Camera>& camera)
     emit cameraChanged(m_selectedCamera);
 }
 
+void CameraList::refreshSelectedCamera()
+{
+    if (m_selectedCamera)
+        m_selectedCamera->refreshDeviceInformation();
+}
+
 void CameraList::onTimeout()
 {
     if (!m_selectedCamera)
         return;
-    m_selectedCamera->refreshDeviceInformation();
+    refreshSelectedCamera();
     emit cameraChanged(m_selectedCamera);
 }
 

@@ -40,6 +40,8 @@ public:
     CameraListModel* model() const { return m_model; }
     const camera::optional<Camera>& selectedCamera() const { return m_selectedCamera; }
     QList<Camera> availableCameras() const;
+    // Reads the selected camera's device information again, without a signal.
+    void refreshSelectedCamera();
 
     void setHostAbilities(const HostAbilities& abilities) { m_abilities = abilities; }
     // Blocks the model's signals; unblocking fetches the list at once.

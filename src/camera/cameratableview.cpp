@@ -16,6 +16,7 @@ CameraTableView::CameraTableView(QWidget* parent)
     setAlternatingRowColors(true);
     setWordWrap(false);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSortIndicatorShown(true);
 }

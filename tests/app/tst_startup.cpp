@@ -1,5 +1,6 @@
 #include "app/apiversioncheck.h"
 #include "app/commandline.h"
+#include "app/qcirrocameramanager.h"
 #include "app/startup.h"
 
 #include <pvsim.h>
@@ -7,6 +8,8 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
@@ -25,7 +28,7 @@ private slots:
     void rejectsUnknownAndVersionOptions();
 
     void oldLibraryIsRefusedWithMessageAndExitCodeZero();
-    void supportedLibraryShowsNoRefusal();
+    void supportedLibraryShowsTheMainWindow();
     void helpShowsDescriptionAndBothOptions();
 
 private:
@@ -136,14 +139,29 @@ void TestStartup::oldLibraryIsRefusedWithMessageAndExitCodeZero()
     QCOMPARE(exitCode, 0);
 }
 
-void TestStartup::supportedLibraryShowsNoRefusal()
+void TestStartup::supportedLibraryShowsTheMainWindow()
 {
     QCOMPARE(pvsim_SetApiVersion(0x04510000u), PV_OK);
+    QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    bool windowShown = false;
+    // Ends the event loop once the main window is on the screen.
+    QTimer watcher;
+    connect(&watcher, &QTimer::timeout, [&windowShown] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (qobject_cast<QCirroCameramanager*>(widget) && widget->isVisible()) {
+                windowShown = true;
+                QApplication::quit();
+            }
+        }
+    });
+    watcher.start(10);
     int exitCode = -1;
     const QStringList shown = runClosingModalBoxes(&exitCode);
     pvsim_SetApiVersion(0x04610000u);
 
     QVERIFY2(shown.isEmpty(), qPrintable(shown.join('\n')));
+    QVERIFY(windowShown);
     QCOMPARE(exitCode, 0);
 }
 

@@ -1,0 +1,164 @@
+// Start-up to the main window on the screen, against a bare QMainWindow shown
+// by the same kind of process. Each iteration starts both programs (this
+// executable in its child roles) and times each from the process start to its
+// report that the window is exposed; the counters give the medians and their
+// ratio. Without DISPLAY the children use the offscreen platform.
+
+#include "app/apiversioncheck.h"
+#include "app/identity.h"
+#include "app/qcirrocameramanager.h"
+#include "app/startup.h"
+
+#include "samplestatistics.h"
+
+#include <cirro_api.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QWindow>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+const char* const childRoleOption = "--child";
+
+bool waitUntilExposed(QWidget& window)
+{
+    QElapsedTimer limit;
+    limit.start();
+    while (!(window.windowHandle() && window.windowHandle()->isExposed())) {
+        if (limit.elapsed() > 10000)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    }
+    return true;
+}
+
+int reportShown(QWidget& window)
+{
+    if (!waitUntilExposed(window))
+        return 1;
+    std::puts("shown");
+    std::fflush(stdout);
+    return 0;
+}
+
+// The application's own start-up path, up to the window being shown.
+int runApplication(int argc, char** argv)
+{
+    Startup::prepareProcess();
+    QApplication app(argc, argv);
+    Identity::applyTo(app);
+    Camera::registerMetaTypes();
+    CoreStates::registerMetaType();
+    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
+        return 1;
+    QCirroCameramanager window;
+    window.show();
+    return reportShown(window);
+}
+
+int runBareWindow(int argc, char** argv)
+{
+    Startup::prepareProcess();
+    QApplication app(argc, argv);
+    QMainWindow window;
+    window.resize(960, 780);
+    window.show();
+    return reportShown(window);
+}
+
+QString writeFleet(const QTemporaryDir& dir, int cameras)
+{
+    QJsonArray list;
+    for (int i = 0; i < cameras; ++i) {
+        const bool usb = i < 900;
+        QJsonObject camera{{"kind", usb ? "usb" : "eth"},
+                           {"serial", QStringLiteral("START%1").arg(i, 5, 10, QLatin1Char('0'))},
+                           {"fullModel", usb ? "CRU3-50M" : "CRG5-12C"},
+                           {"typeCode", usb ? 98 : 138}};
+        if (!usb) {
+            camera["adapter"] = "simnet0";
+            camera["mac"] = QStringLiteral("00:1c:c1:02:00:%1").arg(i % 256, 2, 16, QLatin1Char('0'));
+        }
+        list.append(camera);
+    }
+    QJsonObject adapter{{"name", "simnet0"}, {"mac", "02:c1:5e:00:0a:01"}, {"ip", "192.168.91.1"},
+                        {"mask", "255.255.0.0"}};
+    QFile file(dir.filePath(QStringLiteral("fleet.json")));
+    if (!file.open(QIODevice::WriteOnly))
+        return QString();
+    file.write(QJsonDocument(QJsonObject{{"adapters", QJsonArray{adapter}}, {"cameras", list}}).toJson());
+    return file.fileName();
+}
+
+// Milliseconds from the start of a child to its report, or a negative value.
+double timeChild(const QString& role, const QString& scenario, const QString& settingsHome)
+{
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("CIRRO_SIM_SCENARIO"), scenario);
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), settingsHome);
+    if (!environment.contains(QStringLiteral("DISPLAY")))
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    child.setProcessEnvironment(environment);
+    QElapsedTimer timer;
+    timer.start();
+    child.start(QCoreApplication::applicationFilePath(), {QLatin1String(childRoleOption), role});
+    while (!child.canReadLine()) {
+        if (!child.waitForReadyRead(20000))
+            return -1;
+    }
+    const double elapsed = double(timer.nsecsElapsed()) / 1e6;
+    const bool shown = child.readLine().trimmed() == "shown";
+    child.waitForFinished();
+    return shown ? elapsed : -1;
+}
+
+void BM_StartUp(benchmark::State& state, int cameras)
+{
+    QTemporaryDir dir;
+    const QString scenario = cameras > 0 ? writeFleet(dir, cameras) : QString();
+    SampleStatistics application;
+    SampleStatistics bare;
+    for (auto _ : state) {
+        const double app = timeChild(QStringLiteral("app"), scenario, dir.path());
+        const double plain = timeChild(QStringLiteral("bare"), scenario, dir.path());
+        if (app < 0 || plain < 0) {
+            state.SkipWithError("a child did not show its window");
+            return;
+        }
+        state.SetIterationTime(app / 1e3);
+        application.add(app);
+        bare.add(plain);
+    }
+    state.counters["app_median_ms"] = application.median();
+    state.counters["bare_median_ms"] = bare.median();
+    state.counters["ratio"] = application.median() / bare.median();
+}
+BENCHMARK_CAPTURE(BM_StartUp, default_fleet, 0)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_StartUp, fleet_of_1000, 1000)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc == 3 && std::strcmp(argv[1], childRoleOption) == 0)
+        return std::strcmp(argv[2], "app") == 0 ? runApplication(argc, argv) : runBareWindow(argc, argv);
+    QCoreApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// Administrator rights of the running process and the restart that gains them.
+namespace Elevation {
+
+// True when the process runs with administrator rights.
+bool isElevated();
+
+// Returns true when the process already runs elevated. Otherwise, after asking
+// first when askFirst is set, starts the program again elevated with the
+// restart argument and quits this instance once the new one runs; returns
+// false when the user declines, or when the restart fails (then telling the
+// user if they had been asked).
+bool request(bool askFirst, const QString& restartArgument, QWidget* parent);
+
+} // namespace Elevation

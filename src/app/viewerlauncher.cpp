@@ -1,0 +1,44 @@
+#include "app/viewerlauncher.h"
+
+#include "app/identity.h"
+
+#include <QProcess>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace ViewerLauncher {
+
+QString settingsKey()
+{
+    return QStringLiteral("viewer/path");
+}
+
+QString viewerProgram()
+{
+    return QStringLiteral("CirroViewer");
+}
+
+QString viewerPath()
+{
+    const QString configured = QSettings(Identity::settingsOrganisation(), Identity::settingsApplication()).value(settingsKey()).toString();
+    if (!configured.isEmpty())
+        return configured;
+    return QStandardPaths::findExecutable(viewerProgram());
+}
+
+QStringList arguments(const Camera& camera)
+{
+    const QString serial = camera.serialNumber();
+    // Unreadable serial numbers arrive as replacement characters.
+    if (!serial.isEmpty() && !serial.startsWith(QChar(QChar::ReplacementCharacter)))
+        return {QStringLiteral("-s"), serial};
+    return {QStringLiteral("-d"), QString::number(camera.deviceId())};
+}
+
+bool open(const Camera& camera)
+{
+    const QString path = viewerPath();
+    return !path.isEmpty() && QProcess::startDetached(path, arguments(camera));
+}
+
+} // namespace ViewerLauncher

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Starts the camera manager under Xvfb on the default simulated fleet and
+# writes PNG files of its windows.
+#   tools/screenshots.sh [output directory]     (default: build/screenshots)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+output="${1:-build/screenshots}"
+mkdir -p "$output"
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build build --target cirro_screenshots
+export CIRRO_SIM_SCENARIO= CIRRO_CONFIG_ROOT="$(mktemp -d)"
+trap 'rm -rf "$CIRRO_CONFIG_ROOT"' EXIT
+xvfb-run -a -s "-screen 0 1600x1000x24" build/bin/cirro_screenshots "$output"
