@@ -1,0 +1,1200 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AdapterIpConfig</name>
+    <message>
+        <location filename="../../src/network/adapteripconfig.cpp" line="+41"/>
+        <source>%1 is not a valid subnet mask.</source>
+        <translation>%1 ist keine gültige Subnetzmaske.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is not a valid address for a host in a subnet with mask %2.</source>
+        <translation>%1 ist keine gültige Hostadresse in einem Subnetz mit der Maske %2.</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/adapteripconfig_linux.cpp" line="+49"/>
+        <source>Changing the address of %1 needs administrator rights.</source>
+        <translation>Zum Ändern der Adresse von %1 sind Administratorrechte erforderlich.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Setting the address of %1 failed: %2</source>
+        <translation>Die Adresse von %1 konnte nicht festgelegt werden: %2</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Switching %1 to DHCP is not supported without NetworkManager.</source>
+        <translation>Das Umstellen von %1 auf DHCP wird ohne NetworkManager nicht unterstützt.</translation>
+    </message>
+</context>
+<context>
+    <name>Camera</name>
+    <message>
+        <location filename="../../src/camera/camera.cpp" line="+32"/>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <location line="+175"/>
+        <source>no sensor</source>
+        <translation>kein Sensor</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>invalid</source>
+        <translation>ungültig</translation>
+    </message>
+</context>
+<context>
+    <name>CameraList</name>
+    <message>
+        <location filename="../../src/camera/cameralist.cpp" line="+119"/>
+        <source>&amp;Open this camera</source>
+        <translation>Diese Kamera ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open &amp;all available cameras</source>
+        <translation>&amp;Alle verfügbaren Kameras öffnen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Refresh list</source>
+        <translation>&amp;Liste aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Identify this camera</source>
+        <translation>Diese Kamera &amp;identifizieren</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Camera information</source>
+        <translation>&amp;Kamerainformationen</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Manual ETH configuration</source>
+        <translation>Manuelle ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Add Readonly Device</source>
+        <translation>Schreibgeschütztes Gerät &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&amp;Delete</source>
+        <translation>Lö&amp;schen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>COM port configuration</source>
+        <translation>COM-Port-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>Starten Sie die Anwendung mit erhöhten Rechten neu!</translation>
+    </message>
+</context>
+<context>
+    <name>CameraListModel</name>
+    <message>
+        <location filename="../../src/camera/cameralistmodel.cpp" line="+97"/>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Avail.</source>
+        <translation>Verf.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cam. ID</source>
+        <translation>Kam.-ID</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Dev. ID</source>
+        <translation>Ger.-ID</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ser. No.</source>
+        <translation>Ser.-Nr.</translation>
+    </message>
+    <message>
+        <location line="+60"/>
+        <location line="+2"/>
+        <location line="+15"/>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <location line="+3"/>
+        <location line="+14"/>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Yes (BB)</source>
+        <translation>Ja (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceInfoModel</name>
+    <message>
+        <location filename="../../src/details/deviceflagrenderer.cpp" line="+19"/>
+        <source>true</source>
+        <translation>wahr</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>false</source>
+        <translation>falsch</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/deviceinfomodel.cpp" line="+73"/>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+113"/>
+        <source>Starter firmware version</source>
+        <translation>Version der Starter-Firmware</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Runtime firmware version</source>
+        <translation>Version der Runtime-Firmware</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>%1. Hub</source>
+        <translation>%1. Hub</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 (Port %2)</source>
+        <translation>%1 (Port %2)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1. Controller</source>
+        <translation>%1. Controller</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>ETH version</source>
+        <translation>ETH-Version</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>USB version</source>
+        <translation>USB-Version</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+50"/>
+        <location line="+36"/>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location line="-85"/>
+        <location line="+48"/>
+        <location line="+38"/>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <source>User EEPROM (8 chars)</source>
+        <translation>Benutzer-EEPROM (8 Zeichen)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+88"/>
+        <source>COM port number</source>
+        <translation>COM-Port-Nummer</translation>
+    </message>
+    <message>
+        <location line="-87"/>
+        <location line="+85"/>
+        <source>Camera temperature</source>
+        <translation>Kameratemperatur</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <source>Device status flags</source>
+        <translation>Gerätestatus-Flags</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device control status</source>
+        <translation>Gerätesteuerungsstatus</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+78"/>
+        <source>Sensor ID</source>
+        <translation>Sensor-ID</translation>
+    </message>
+    <message>
+        <location line="-77"/>
+        <source>Image memory size</source>
+        <translation>Größe des Bildspeichers</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+43"/>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <location line="-42"/>
+        <location line="+43"/>
+        <source>MAC address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <location line="-42"/>
+        <source>Current IP address</source>
+        <translation>Aktuelle IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Current Subnetmask</source>
+        <translation>Aktuelle Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address</source>
+        <translation>Persistente IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP subnetmask</source>
+        <translation>Persistente IP-Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP FSM state</source>
+        <translation>DHCP-FSM-Zustand</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP state</source>
+        <translation>DHCP-Zustand</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP server IP</source>
+        <translation>IP des DHCP-Servers</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP lease time</source>
+        <translation>DHCP-Lease-Dauer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP T1 time</source>
+        <translation>DHCP-T1-Zeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP T2 time</source>
+        <translation>DHCP-T2-Zeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>IP range begin</source>
+        <translation>Beginn des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <location line="+32"/>
+        <source>IP range end</source>
+        <translation>Ende des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="-31"/>
+        <source>Paired host MAC address</source>
+        <translation>MAC-Adresse des gekoppelten Hosts</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Paired host IP address</source>
+        <translation>IP-Adresse des gekoppelten Hosts</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast IP address</source>
+        <translation>Multicast-IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 Mbits/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Local network adapter</source>
+        <translation>Lokaler Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Designation</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Driver version</source>
+        <translation>Treiberversion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Driver date</source>
+        <translation>Treiberdatum</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP enabled</source>
+        <translation>DHCP aktiviert</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Number of known devices</source>
+        <translation>Anzahl bekannter Geräte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of paired devices</source>
+        <translation>Anzahl gekoppelter Geräte</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP subnetmask</source>
+        <translation>IP-Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IP range valid</source>
+        <translation>IP-Bereich gültig</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Packet filter</source>
+        <translation>Paketfilter</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast Enabled</source>
+        <translation>Multicast aktiviert</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Adapter link speed</source>
+        <translation>Verbindungsgeschwindigkeit des Adapters</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Device type</source>
+        <translation>Gerätetyp</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link speed</source>
+        <translation>Verbindungsgeschwindigkeit</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Local driver</source>
+        <translation>Lokaler Treiber</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Min. compatible starter FW</source>
+        <translation>Min. kompatible Starter-FW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max. compatible starter FW</source>
+        <translation>Max. kompatible Starter-FW</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="+24"/>
+        <source>Invalid - temperature sensor defect!</source>
+        <translation>Ungültig - Temperatursensor defekt!</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Invalid - temperature sensor to high!</source>
+        <translation>Ungültig - Temperatur am Sensor zu hoch!</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>High Speed (USB 2.0)</source>
+        <translation>High-Speed (USB 2.0)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>SuperSpeed USB 5 Gbps</source>
+        <translation>SuperSpeed USB 5 Gbit/s</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Pass all</source>
+        <translation>Alle durchlassen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Block CRGET</source>
+        <translation>CRGET blockieren</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Block all</source>
+        <translation>Alle blockieren</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/flagtables.cpp" line="+16"/>
+        <source>Ready to operate</source>
+        <translation>Betriebsbereit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing current IP</source>
+        <translation>Aktuelle IP wird geprüft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing persistent IP</source>
+        <translation>Persistente IP wird geprüft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing IP range</source>
+        <translation>IP-Bereich wird geprüft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Current IP address not applicable</source>
+        <translation>Aktuelle IP-Adresse nicht verwendbar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address not applicable</source>
+        <translation>Persistente IP-Adresse nicht verwendbar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP range not applicable</source>
+        <translation>IP-Bereich nicht verwendbar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast mode enabled</source>
+        <translation>Multicast-Modus aktiviert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unpaired</source>
+        <translation>Nicht gekoppelt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+28"/>
+        <source>Pairing in progress</source>
+        <translation>Kopplung läuft</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <location line="+28"/>
+        <source>Paired</source>
+        <translation>Gekoppelt</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <source>Force 100Mbps</source>
+        <translation>100 Mbit/s erzwingen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No COM port</source>
+        <translation>Kein COM-Port</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Needs firmware addon</source>
+        <translation>Add-on-Firmware erforderlich</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving starter firmware</source>
+        <translation>Starter-Firmware wird empfangen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving runtime firmware</source>
+        <translation>Runtime-Firmware wird empfangen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable runtime firmware</source>
+        <translation>Ungeeignete Runtime-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable starter firmware</source>
+        <translation>Ungeeignete Starter-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to runtime firmware</source>
+        <translation>Neustart in die Runtime-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to starter firmware</source>
+        <translation>Neustart in die Starter-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to failsafe firmware</source>
+        <translation>Neustart in die Failsafe-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing FPGA Firmware</source>
+        <translation>FPGA-Firmware wird geprüft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving addon firmware</source>
+        <translation>Add-on-Firmware wird empfangen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable addon firmware</source>
+        <translation>Ungeeignete Add-on-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hardware configuration error</source>
+        <translation>Fehler in der Hardwarekonfiguration</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Runtime firmware error 0</source>
+        <translation>Runtime-Firmware-Fehler 0</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Available</source>
+        <translation>Verfügbar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Accessible 1</source>
+        <translation>Zugreifbar 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Accessible 2</source>
+        <translation>Zugreifbar 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address used</source>
+        <translation>Persistente IP-Adresse verwendet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Compatible</source>
+        <translation>Kompatibel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Adapter uses DHCP</source>
+        <translation>Adapter verwendet DHCP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Adapter settings OK</source>
+        <translation>Adaptereinstellungen OK</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unpairing in progress</source>
+        <translation>Entkopplung läuft</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Opened</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>Starter-Firmware hochladen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload runtime firmware</source>
+        <translation>Runtime-Firmware hochladen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting</source>
+        <translation>Neustart</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot boost enabled</source>
+        <translation>Boot-Boost aktiviert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot boost used</source>
+        <translation>Boot-Boost verwendet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Initialized</source>
+        <translation>Initialisiert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To be deleted</source>
+        <translation>Zum Löschen vorgesehen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To be removed</source>
+        <translation>Zum Entfernen vorgesehen</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceInfoView</name>
+    <message>
+        <location filename="../../src/details/deviceinfoview.cpp" line="+82"/>
+        <source>Copy item values</source>
+        <translation>Werte der Einträge kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ElevatedRestart</name>
+    <message>
+        <location filename="../../src/app/elevatedrestart_linux.cpp" line="+68"/>
+        <source>%1 could not be started.</source>
+        <translation>%1 konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The authorisation was refused or failed.</source>
+        <translation>Die Autorisierung wurde verweigert oder ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>Elevation</name>
+    <message>
+        <location filename="../../src/app/elevation.cpp" line="+17"/>
+        <source>Restart application</source>
+        <translation>Anwendung neu starten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Some features require admin privileges. Do you want to restart the application as admin?</source>
+        <translation>Einige Funktionen erfordern Administratorrechte. Möchten Sie die Anwendung als Administrator neu starten?</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This function needs admin privileges and you refused it!</source>
+        <translation>Diese Funktion erfordert Administratorrechte, die Sie verweigert haben!</translation>
+    </message>
+</context>
+<context>
+    <name>EthServiceBindings</name>
+    <message>
+        <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
+        <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
+        <translation>Die Einstellungen des ETH-Dienstes in %1 können nicht geändert werden. Starten Sie die Anwendung mit erhöhten Rechten neu!</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkManagerClient</name>
+    <message>
+        <location filename="../../src/network/networkmanagerclient_linux.cpp" line="+167"/>
+        <source>NetworkManager has no active connection on %1.</source>
+        <translation>NetworkManager hat keine aktive Verbindung auf %1.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>NetworkManager refused the change on %1: %2</source>
+        <translation>NetworkManager hat die Änderung an %1 abgelehnt: %2</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkResult</name>
+    <message>
+        <location filename="../../src/network/networkresult.cpp" line="+5"/>
+        <source>There is no network adapter &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Netzwerkadapter „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>QCirroCameramanager</name>
+    <message>
+        <location filename="../../src/app/qcirrocameramanager.cpp" line="+279"/>
+        <source>Camera list</source>
+        <translation>Kameraliste</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control area</source>
+        <translation>Steuerbereich</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expert mode</source>
+        <translation>Expertenmodus</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show/hide detailed information view</source>
+        <translation>Detaillierte Informationsansicht ein-/ausblenden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic parameter refresh</source>
+        <translation>Automatische Parameteraktualisierung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enables/Disables the automatic refresh of the detailed information view</source>
+        <translation>Aktiviert/deaktiviert die automatische Aktualisierung der detaillierten Informationsansicht</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera information</source>
+        <translation>Kamerainformationen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+12"/>
+        <source>Show additional camera information</source>
+        <translation>Zusätzliche Kamerainformationen anzeigen</translation>
+    </message>
+    <message>
+        <location line="-11"/>
+        <source>General information</source>
+        <translation>Allgemeine Informationen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show general information dialog</source>
+        <translation>Dialog „Allgemeine Informationen“ anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>Starter-Firmware hochladen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Upload a runtime firmware manually</source>
+        <translation>Runtime-Firmware manuell hochladen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create support file</source>
+        <translation>Supportdatei erstellen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create a support file with important system
+ and %1 information for sending to the %2 support</source>
+        <translation>Erstellt eine Supportdatei mit wichtigen Informationen zum System
+ und zu %1, die Sie an den Support von %2 senden können</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH network service</source>
+        <translation>ETH-Netzwerkdienst</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network configuration dialog</source>
+        <translation>Dialog für die Netzwerkkonfiguration anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional functions</source>
+        <translation>Zusatzfunktionen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manual ETH configuration</source>
+        <translation>Manuelle ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network device configuration dialog</source>
+        <translation>Dialog für die Konfiguration des Netzwerkgeräts anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic ETH configuration</source>
+        <translation>Automatische ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Automatic network configuration</source>
+        <translation>Automatische Netzwerkkonfiguration</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Quits the application window</source>
+        <translation>Schließt das Anwendungsfenster</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Read support file</source>
+        <translation>Supportdatei einlesen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional Camera Info</source>
+        <translation>Zusätzliche Kamerainfos</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Device details</source>
+        <translation>Gerätedetails</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Camera Manager</source>
+        <translation>%1 Camera Manager</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The %1 Camera Manager is running with root privileges!</source>
+        <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
+    </message>
+    <message>
+        <location line="+147"/>
+        <source>Delete read-only device</source>
+        <translation>Schreibgeschütztes Gerät löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The read-only device could not be removed.
+Return code: %1</source>
+        <translation>Das schreibgeschützte Gerät konnte nicht entfernt werden.
+Rückgabecode: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceManager</name>
+    <message>
+        <location filename="../../src/common/servicemanager.cpp" line="+27"/>
+        <source>The service %1 is not installed.</source>
+        <translation>Der Dienst %1 ist nicht installiert.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The service %1 could not be started: %2</source>
+        <translation>Der Dienst %1 konnte nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The service %1 could not be stopped: %2</source>
+        <translation>Der Dienst %1 konnte nicht beendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedServiceManager</name>
+    <message>
+        <location filename="../../src/common/simulatedservicemanager.cpp" line="+32"/>
+        <source>the simulated driver refused with code %1.</source>
+        <translation>der simulierte Treiber hat mit Code %1 abgelehnt.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusTexts</name>
+    <message>
+        <location filename="../../src/camera/statusassessment.cpp" line="+25"/>
+        <source>You have opened the camera</source>
+        <translation>Sie haben die Kamera geöffnet</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>This camera does not support Fullspeed USB.</source>
+        <translation>Diese Kamera unterstützt kein Full-Speed-USB.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>An upload of the camera firmware is not possible. The hardware of your camera is probably not compatible to the installed %1 driver. Your hardware is not supported by driver versions higher than 3.00.</source>
+        <translation>Das Hochladen der Kamera-Firmware ist nicht möglich. Die Hardware Ihrer Kamera ist vermutlich nicht mit dem installierten Treiber von %1 kompatibel. Ihre Hardware wird von Treiberversionen höher als 3.00 nicht unterstützt.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source> In addition, the camera does not support Fullspeed USB.</source>
+        <translation> Außerdem unterstützt die Kamera kein Full-Speed-USB.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Status of device %1: The camera cannot be opened because it is running with service firmware. Either start the camera in runtime using the &quot;parvel_devicecommand&quot; tool (--reset-to-runtime) or update the camera firmware, e.g. using the &quot;parvel_deviceupdate&quot; tool.
+</source>
+        <translation>Status von Gerät %1: Die Kamera kann nicht geöffnet werden, da sie mit der Service-Firmware läuft. Starten Sie die Kamera entweder mit dem Tool &quot;parvel_devicecommand&quot; (--reset-to-runtime) in der Runtime-Firmware oder aktualisieren Sie die Kamera-Firmware, z. B. mit dem Tool &quot;parvel_deviceupdate&quot;.
+</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The camera is using an invalid IP range and can&apos;t be opened. Please use the &apos;Manual ETH configuration&apos; button to set a valid IP address.</source>
+        <translation>Die Kamera verwendet einen ungültigen IP-Bereich und kann nicht geöffnet werden. Bitte legen Sie über die Schaltfläche „Manuelle ETH-Konfiguration“ eine gültige IP-Adresse fest.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Internal driver error. Please reinstall the %1 setup.</source>
+        <translation>Interner Treiberfehler. Bitte führen Sie die Installation von %1 erneut aus.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Waiting for %1.</source>
+        <translation>Warten auf %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Internal device error. Please upload a new starter firmware.</source>
+        <translation>Interner Gerätefehler. Bitte laden Sie eine neue Starter-Firmware hoch.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Internal device error. The runtime firmware is corrupted.</source>
+        <translation>Interner Gerätefehler. Die Runtime-Firmware ist beschädigt.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The device is not compatible to the driver. Please upload a new starter firmware.</source>
+        <translation>Das Gerät ist nicht mit dem Treiber kompatibel. Bitte laden Sie eine neue Starter-Firmware hoch.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The network adapter is configured to use DHCP. Please assign a static IP address and subnetmask via the dialog &apos;Manual ETH configuration&apos;. DHCP will be deactivated automatically.</source>
+        <translation>Der Netzwerkadapter ist für DHCP konfiguriert. Bitte weisen Sie über den Dialog „Manuelle ETH-Konfiguration“ eine statische IP-Adresse und Subnetzmaske zu. DHCP wird dabei automatisch deaktiviert.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The camera is not configured properly. Please use the &apos;Manual ETH configuration&apos; or &apos;Automatic ETH configuration&apos; button to set a IP address. Or enable the camera DHCP client if a DHCP server is available.</source>
+        <translation>Die Kamera ist nicht korrekt konfiguriert. Bitte legen Sie über die Schaltfläche „Manuelle ETH-Konfiguration“ oder „Automatische ETH-Konfiguration“ eine IP-Adresse fest. Alternativ können Sie den DHCP-Client der Kamera aktivieren, falls ein DHCP-Server verfügbar ist.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The network adapter is not configured to use packets larger than the normal size of 1,5 KB.Please set the packet size to at least 2 KB.</source>
+        <translation>Der Netzwerkadapter ist nicht für Pakete konfiguriert, die größer als die normale Größe von 1,5 KB sind. Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Firmware image is not available or corrupted. Please reinstall the %1 setup.</source>
+        <translation>Das Firmware-Image ist nicht verfügbar oder beschädigt. Bitte führen Sie die Installation von %1 erneut aus.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The starter firmware of the camera is incompatible to the driver.
+An automatic upload will be initiated next time you open the camera. This upload will take several seconds. Do not switch off the power supply and do not unplug the camera! It is strongly recommended to upload the firmware over the button &apos;Starter Firmware Upload&apos;. The requested starter firmware version is %1.%2.%3</source>
+        <translation>Die Starter-Firmware der Kamera ist nicht mit dem Treiber kompatibel.
+Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorgang dauert einige Sekunden. Schalten Sie währenddessen die Stromversorgung nicht aus und trennen Sie die Kamera nicht! Es wird dringend empfohlen, die Firmware über die Schaltfläche „Starter-Firmware hochladen“ hochzuladen. Die benötigte Version der Starter-Firmware ist %1.%2.%3</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Status of device %1: The camera is currently running in the boot boost mode. It is configured correctly and can be opened.</source>
+        <translation>Status von Gerät %1: Die Kamera läuft derzeit im Boot-Boost-Modus. Sie ist korrekt konfiguriert und kann geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The camera is being used by another host and cannot be opened at the moment.</source>
+        <translation>Die Kamera wird von einem anderen Host verwendet und kann derzeit nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The camera is not opened by another host and cannot be opened at the moment.</source>
+        <translation>Die Kamera ist von keinem anderen Host geöffnet und kann derzeit nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Transfer failed (Errorcode: %1): API DLL or kernel driver incompatible. Please reinstall the setup.</source>
+        <translation>Übertragung fehlgeschlagen (Fehlercode: %1): API-DLL oder Kerneltreiber inkompatibel. Bitte führen Sie die Installation erneut aus.</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <source>Status of device %1: %2</source>
+        <translation>Status von Gerät %1: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status of device %1: The camera is configured correctly and can be opened.</source>
+        <translation>Status von Gerät %1: Die Kamera ist korrekt konfiguriert und kann geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status of device %1: The camera is configured correctly and can be opened. Please note that this device currently is using a lower speed than supported by it.</source>
+        <translation>Status von Gerät %1: Die Kamera ist korrekt konfiguriert und kann geöffnet werden. Bitte beachten Sie, dass dieses Gerät derzeit mit einer niedrigeren Geschwindigkeit betrieben wird, als es unterstützt.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No camera list available</source>
+        <translation>Keine Kameraliste verfügbar</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
+        <translation>Achtung: Sie verwenden ein Kameramodell, das von der aktuellen Treiberversion nicht mehr unterstützt wird.</translation>
+    </message>
+</context>
+<context>
+    <name>SystemdServiceManager</name>
+    <message>
+        <location filename="../../src/common/systemdservicemanager_linux.cpp" line="+77"/>
+        <source>there is no connection to D-Bus (%1).</source>
+        <translation>es besteht keine Verbindung zum D-Bus (%1).</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>systemd does not run on this system.</source>
+        <translation>systemd läuft auf diesem System nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>UsbTopology</name>
+    <message>
+        <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
+        <source>USB Root Hub</source>
+        <translation>USB-Root-Hub</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB Root Hub (USB %1)</source>
+        <translation>USB-Root-Hub (USB %1)</translation>
+    </message>
+    <message>
+        <location line="+160"/>
+        <source>unkown</source>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <location filename="../../src/app/apiversioncheck.cpp" line="+20"/>
+        <source>%4 Camera Manager %1 doesn&apos;t work with
+lib%4_api &lt; %2.%3!
+use a newer lib%4!</source>
+        <translation>%4 Camera Manager %1 funktioniert nicht mit
+lib%4_api &lt; %2.%3!
+Verwenden Sie eine neuere lib%4!</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/commandline.cpp" line="+9"/>
+        <source>Open Additional functions</source>
+        <translation>Zusatzfunktionen öffnen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Daemon control</source>
+        <translation>Daemon-Steuerung öffnen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 Camera Manager command line helper</source>
+        <translation>Befehlszeilenhilfe für den %1 Camera Manager</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/identity.cpp" line="+29"/>
+        <source>%1 Camera Manager</source>
+        <translation>%1 Camera Manager</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/startup.cpp" line="+39"/>
+        <source>The camera driver refused the camera list&apos;s device events.
+Return code: %1</source>
+        <translation>Der Kameratreiber hat die Geräteereignisse der Kameraliste abgelehnt.
+Rückgabecode: %1</translation>
+    </message>
+</context>
+</TS>

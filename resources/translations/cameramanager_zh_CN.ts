@@ -1,0 +1,1200 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>AdapterIpConfig</name>
+    <message>
+        <location filename="../../src/network/adapteripconfig.cpp" line="+41"/>
+        <source>%1 is not a valid subnet mask.</source>
+        <translation>%1 不是有效的子网掩码。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is not a valid address for a host in a subnet with mask %2.</source>
+        <translation>%1 不是子网掩码为 %2 的子网中的有效主机地址。</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/adapteripconfig_linux.cpp" line="+49"/>
+        <source>Changing the address of %1 needs administrator rights.</source>
+        <translation>更改 %1 的地址需要管理员权限。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Setting the address of %1 failed: %2</source>
+        <translation>设置 %1 的地址失败：%2</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Switching %1 to DHCP is not supported without NetworkManager.</source>
+        <translation>没有 NetworkManager 时，不支持将 %1 切换为 DHCP。</translation>
+    </message>
+</context>
+<context>
+    <name>Camera</name>
+    <message>
+        <location filename="../../src/camera/camera.cpp" line="+32"/>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <location line="+175"/>
+        <source>no sensor</source>
+        <translation>无传感器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>invalid</source>
+        <translation>无效</translation>
+    </message>
+</context>
+<context>
+    <name>CameraList</name>
+    <message>
+        <location filename="../../src/camera/cameralist.cpp" line="+119"/>
+        <source>&amp;Open this camera</source>
+        <translation>打开此相机(&amp;O)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Open &amp;all available cameras</source>
+        <translation>打开所有可用相机(&amp;A)</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Refresh list</source>
+        <translation>刷新列表(&amp;R)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Identify this camera</source>
+        <translation>识别此相机(&amp;I)</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Camera information</source>
+        <translation>相机信息(&amp;C)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Manual ETH configuration</source>
+        <translation>手动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Add Readonly Device</source>
+        <translation>添加只读设备(&amp;A)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>COM port configuration</source>
+        <translation>COM 端口配置</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>请使用提升的权限重新启动！</translation>
+    </message>
+</context>
+<context>
+    <name>CameraListModel</name>
+    <message>
+        <location filename="../../src/camera/cameralistmodel.cpp" line="+97"/>
+        <source>Free</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Avail.</source>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cam. ID</source>
+        <translation>相机 ID</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Dev. ID</source>
+        <translation>设备 ID</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ser. No.</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <location line="+60"/>
+        <location line="+2"/>
+        <location line="+15"/>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <location line="+3"/>
+        <location line="+14"/>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>Yes (BB)</source>
+        <translation>是 (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceInfoModel</name>
+    <message>
+        <location filename="../../src/details/deviceflagrenderer.cpp" line="+19"/>
+        <source>true</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>false</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/deviceinfomodel.cpp" line="+73"/>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+113"/>
+        <source>Starter firmware version</source>
+        <translation>启动固件版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Runtime firmware version</source>
+        <translation>运行时固件版本</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>%1. Hub</source>
+        <translation>第 %1 级集线器</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 (Port %2)</source>
+        <translation>%1（端口 %2）</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1. Controller</source>
+        <translation>第 %1 级控制器</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>ETH version</source>
+        <translation>ETH 版本</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>USB version</source>
+        <translation>USB 版本</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+50"/>
+        <location line="+36"/>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <location line="-85"/>
+        <location line="+48"/>
+        <location line="+38"/>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <source>User EEPROM (8 chars)</source>
+        <translation>用户 EEPROM（8 个字符）</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+88"/>
+        <source>COM port number</source>
+        <translation>COM 端口号</translation>
+    </message>
+    <message>
+        <location line="-87"/>
+        <location line="+85"/>
+        <source>Camera temperature</source>
+        <translation>相机温度</translation>
+    </message>
+    <message>
+        <location line="-84"/>
+        <source>Device status flags</source>
+        <translation>设备状态标志</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device control status</source>
+        <translation>设备控制状态</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Hardware</source>
+        <translation>硬件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+78"/>
+        <source>Sensor ID</source>
+        <translation>传感器 ID</translation>
+    </message>
+    <message>
+        <location line="-77"/>
+        <source>Image memory size</source>
+        <translation>图像存储器大小</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+43"/>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <location line="-42"/>
+        <location line="+43"/>
+        <source>MAC address</source>
+        <translation>MAC 地址</translation>
+    </message>
+    <message>
+        <location line="-42"/>
+        <source>Current IP address</source>
+        <translation>当前 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Current Subnetmask</source>
+        <translation>当前子网掩码</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address</source>
+        <translation>持久 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP subnetmask</source>
+        <translation>持久 IP 子网掩码</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP FSM state</source>
+        <translation>DHCP FSM 状态</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP state</source>
+        <translation>DHCP 状态</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabled</source>
+        <translation>已启用</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP server IP</source>
+        <translation>DHCP 服务器 IP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP lease time</source>
+        <translation>DHCP 租用时间</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP T1 time</source>
+        <translation>DHCP T1 时间</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP T2 time</source>
+        <translation>DHCP T2 时间</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+31"/>
+        <source>IP range begin</source>
+        <translation>IP 范围起始地址</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <location line="+32"/>
+        <source>IP range end</source>
+        <translation>IP 范围结束地址</translation>
+    </message>
+    <message>
+        <location line="-31"/>
+        <source>Paired host MAC address</source>
+        <translation>已配对主机的 MAC 地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Paired host IP address</source>
+        <translation>已配对主机的 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast IP address</source>
+        <translation>组播 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link</source>
+        <translation>链路</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 Mbits/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Local network adapter</source>
+        <translation>本地网络适配器</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Designation</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Driver version</source>
+        <translation>驱动程序版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Driver date</source>
+        <translation>驱动程序日期</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP enabled</source>
+        <translation>DHCP 已启用</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Number of known devices</source>
+        <translation>已知设备数</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of paired devices</source>
+        <translation>已配对设备数</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP subnetmask</source>
+        <translation>IP 子网掩码</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IP range valid</source>
+        <translation>IP 范围有效</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Packet filter</source>
+        <translation>数据包过滤器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast Enabled</source>
+        <translation>组播已启用</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Adapter link speed</source>
+        <translation>适配器链路速度</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Device type</source>
+        <translation>设备类型</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link speed</source>
+        <translation>链路速度</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Local driver</source>
+        <translation>本地驱动程序</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Min. compatible starter FW</source>
+        <translation>最低兼容启动固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max. compatible starter FW</source>
+        <translation>最高兼容启动固件</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="+24"/>
+        <source>Invalid - temperature sensor defect!</source>
+        <translation>无效 - 温度传感器故障！</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Invalid - temperature sensor to high!</source>
+        <translation>无效 - 温度传感器读数过高！</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>High Speed (USB 2.0)</source>
+        <translation>高速 (USB 2.0)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>SuperSpeed USB 5 Gbps</source>
+        <translation>超高速 USB 5 Gbps</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Pass all</source>
+        <translation>全部通过</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Block CRGET</source>
+        <translation>阻止 CRGET</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Block all</source>
+        <translation>全部阻止</translation>
+    </message>
+    <message>
+        <location filename="../../src/details/flagtables.cpp" line="+16"/>
+        <source>Ready to operate</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing current IP</source>
+        <translation>正在测试当前 IP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing persistent IP</source>
+        <translation>正在测试持久 IP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing IP range</source>
+        <translation>正在测试 IP 范围</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Current IP address not applicable</source>
+        <translation>当前 IP 地址不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address not applicable</source>
+        <translation>持久 IP 地址不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP range not applicable</source>
+        <translation>IP 范围不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Multicast mode enabled</source>
+        <translation>组播模式已启用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unpaired</source>
+        <translation>未配对</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+28"/>
+        <source>Pairing in progress</source>
+        <translation>正在配对</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <location line="+28"/>
+        <source>Paired</source>
+        <translation>已配对</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <source>Force 100Mbps</source>
+        <translation>强制 100 Mbps</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No COM port</source>
+        <translation>无 COM 端口</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Needs firmware addon</source>
+        <translation>需要附加固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving starter firmware</source>
+        <translation>正在接收启动固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving runtime firmware</source>
+        <translation>正在接收运行时固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable runtime firmware</source>
+        <translation>运行时固件不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable starter firmware</source>
+        <translation>启动固件不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to runtime firmware</source>
+        <translation>正在重启至运行时固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to starter firmware</source>
+        <translation>正在重启至启动固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting to failsafe firmware</source>
+        <translation>正在重启至故障安全固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Testing FPGA Firmware</source>
+        <translation>正在测试 FPGA 固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Receiving addon firmware</source>
+        <translation>正在接收附加固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Inapplicable addon firmware</source>
+        <translation>附加固件不适用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hardware configuration error</source>
+        <translation>硬件配置错误</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Runtime firmware error 0</source>
+        <translation>运行时固件错误 0</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Available</source>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Accessible 1</source>
+        <translation>可访问 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Accessible 2</source>
+        <translation>可访问 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address used</source>
+        <translation>已使用持久 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Compatible</source>
+        <translation>兼容</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Adapter uses DHCP</source>
+        <translation>适配器使用 DHCP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Adapter settings OK</source>
+        <translation>适配器设置正常</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unpairing in progress</source>
+        <translation>正在取消配对</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Opened</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>上传启动固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload runtime firmware</source>
+        <translation>上传运行时固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rebooting</source>
+        <translation>正在重启</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot boost enabled</source>
+        <translation>Boot Boost 已启用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot boost used</source>
+        <translation>已使用 Boot Boost</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Initialized</source>
+        <translation>已初始化</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To be deleted</source>
+        <translation>待删除</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To be removed</source>
+        <translation>待移除</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceInfoView</name>
+    <message>
+        <location filename="../../src/details/deviceinfoview.cpp" line="+82"/>
+        <source>Copy item values</source>
+        <translation>复制条目值</translation>
+    </message>
+</context>
+<context>
+    <name>ElevatedRestart</name>
+    <message>
+        <location filename="../../src/app/elevatedrestart_linux.cpp" line="+68"/>
+        <source>%1 could not be started.</source>
+        <translation>无法启动 %1。</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The authorisation was refused or failed.</source>
+        <translation>授权被拒绝或失败。</translation>
+    </message>
+</context>
+<context>
+    <name>Elevation</name>
+    <message>
+        <location filename="../../src/app/elevation.cpp" line="+17"/>
+        <source>Restart application</source>
+        <translation>重新启动应用程序</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Some features require admin privileges. Do you want to restart the application as admin?</source>
+        <translation>部分功能需要管理员权限。是否以管理员身份重新启动应用程序？</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This function needs admin privileges and you refused it!</source>
+        <translation>此功能需要管理员权限，但您已拒绝授予！</translation>
+    </message>
+</context>
+<context>
+    <name>EthServiceBindings</name>
+    <message>
+        <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
+        <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
+        <translation>无法更改 %1 中的 ETH 服务设置。请使用提升的权限重新启动！</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkManagerClient</name>
+    <message>
+        <location filename="../../src/network/networkmanagerclient_linux.cpp" line="+167"/>
+        <source>NetworkManager has no active connection on %1.</source>
+        <translation>NetworkManager 在 %1 上没有活动连接。</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>NetworkManager refused the change on %1: %2</source>
+        <translation>NetworkManager 拒绝了对 %1 的更改：%2</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkResult</name>
+    <message>
+        <location filename="../../src/network/networkresult.cpp" line="+5"/>
+        <source>There is no network adapter &quot;%1&quot;.</source>
+        <translation>不存在网络适配器“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>QCirroCameramanager</name>
+    <message>
+        <location filename="../../src/app/qcirrocameramanager.cpp" line="+279"/>
+        <source>Camera list</source>
+        <translation>相机列表</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control area</source>
+        <translation>控制区</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expert mode</source>
+        <translation>专家模式</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show/hide detailed information view</source>
+        <translation>显示/隐藏详细信息视图</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic parameter refresh</source>
+        <translation>自动刷新参数</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enables/Disables the automatic refresh of the detailed information view</source>
+        <translation>启用/禁用详细信息视图的自动刷新</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera information</source>
+        <translation>相机信息</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+12"/>
+        <source>Show additional camera information</source>
+        <translation>显示附加相机信息</translation>
+    </message>
+    <message>
+        <location line="-11"/>
+        <source>General information</source>
+        <translation>常规信息</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show general information dialog</source>
+        <translation>显示“常规信息”对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>上传启动固件</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Upload a runtime firmware manually</source>
+        <translation>手动上传运行时固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create support file</source>
+        <translation>创建支持文件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create a support file with important system
+ and %1 information for sending to the %2 support</source>
+        <translation>创建一个包含重要系统信息
+ 和 %1 信息的支持文件，用于发送给 %2 技术支持</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH network service</source>
+        <translation>ETH 网络服务</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network configuration dialog</source>
+        <translation>显示网络配置对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional functions</source>
+        <translation>附加功能</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manual ETH configuration</source>
+        <translation>手动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network device configuration dialog</source>
+        <translation>显示网络设备配置对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic ETH configuration</source>
+        <translation>自动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Automatic network configuration</source>
+        <translation>自动网络配置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Quits the application window</source>
+        <translation>关闭应用程序窗口</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Read support file</source>
+        <translation>读取支持文件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional Camera Info</source>
+        <translation>附加相机信息</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Device details</source>
+        <translation>设备详细信息</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Camera Manager</source>
+        <translation>%1 相机管理器</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The %1 Camera Manager is running with root privileges!</source>
+        <translation>%1 相机管理器正在以 root 权限运行！</translation>
+    </message>
+    <message>
+        <location line="+147"/>
+        <source>Delete read-only device</source>
+        <translation>删除只读设备</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The read-only device could not be removed.
+Return code: %1</source>
+        <translation>无法移除只读设备。
+返回代码：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceManager</name>
+    <message>
+        <location filename="../../src/common/servicemanager.cpp" line="+27"/>
+        <source>The service %1 is not installed.</source>
+        <translation>服务 %1 未安装。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The service %1 could not be started: %2</source>
+        <translation>无法启动服务 %1：%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The service %1 could not be stopped: %2</source>
+        <translation>无法停止服务 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedServiceManager</name>
+    <message>
+        <location filename="../../src/common/simulatedservicemanager.cpp" line="+32"/>
+        <source>the simulated driver refused with code %1.</source>
+        <translation>模拟驱动程序拒绝了请求，代码为 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusTexts</name>
+    <message>
+        <location filename="../../src/camera/statusassessment.cpp" line="+25"/>
+        <source>You have opened the camera</source>
+        <translation>您已打开此相机</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>This camera does not support Fullspeed USB.</source>
+        <translation>此相机不支持全速 USB。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>An upload of the camera firmware is not possible. The hardware of your camera is probably not compatible to the installed %1 driver. Your hardware is not supported by driver versions higher than 3.00.</source>
+        <translation>无法上传相机固件。您的相机硬件可能与已安装的 %1 驱动程序不兼容。高于 3.00 的驱动程序版本不支持您的硬件。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source> In addition, the camera does not support Fullspeed USB.</source>
+        <translation> 此外，该相机不支持全速 USB。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Status of device %1: The camera cannot be opened because it is running with service firmware. Either start the camera in runtime using the &quot;parvel_devicecommand&quot; tool (--reset-to-runtime) or update the camera firmware, e.g. using the &quot;parvel_deviceupdate&quot; tool.
+</source>
+        <translation>设备 %1 的状态：相机正在使用服务固件运行，因此无法打开。请使用 &quot;parvel_devicecommand&quot; 工具 (--reset-to-runtime) 以运行时固件启动相机，或者更新相机固件，例如使用 &quot;parvel_deviceupdate&quot; 工具。
+</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The camera is using an invalid IP range and can&apos;t be opened. Please use the &apos;Manual ETH configuration&apos; button to set a valid IP address.</source>
+        <translation>相机使用的 IP 范围无效，无法打开。请使用“手动 ETH 配置”按钮设置有效的 IP 地址。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Internal driver error. Please reinstall the %1 setup.</source>
+        <translation>驱动程序内部错误。请重新运行 %1 安装程序。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Waiting for %1.</source>
+        <translation>正在等待 %1。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Internal device error. Please upload a new starter firmware.</source>
+        <translation>设备内部错误。请上传新的启动固件。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Internal device error. The runtime firmware is corrupted.</source>
+        <translation>设备内部错误。运行时固件已损坏。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The device is not compatible to the driver. Please upload a new starter firmware.</source>
+        <translation>设备与驱动程序不兼容。请上传新的启动固件。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The network adapter is configured to use DHCP. Please assign a static IP address and subnetmask via the dialog &apos;Manual ETH configuration&apos;. DHCP will be deactivated automatically.</source>
+        <translation>网络适配器已配置为使用 DHCP。请通过“手动 ETH 配置”对话框分配静态 IP 地址和子网掩码。DHCP 将自动停用。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The camera is not configured properly. Please use the &apos;Manual ETH configuration&apos; or &apos;Automatic ETH configuration&apos; button to set a IP address. Or enable the camera DHCP client if a DHCP server is available.</source>
+        <translation>相机配置不正确。请使用“手动 ETH 配置”或“自动 ETH 配置”按钮设置 IP 地址。如果有可用的 DHCP 服务器，也可以启用相机的 DHCP 客户端。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The network adapter is not configured to use packets larger than the normal size of 1,5 KB.Please set the packet size to at least 2 KB.</source>
+        <translation>网络适配器未配置为使用超过常规大小 (1.5 KB) 的数据包。请将数据包大小设置为至少 2 KB。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Firmware image is not available or corrupted. Please reinstall the %1 setup.</source>
+        <translation>固件映像不可用或已损坏。请重新运行 %1 安装程序。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The starter firmware of the camera is incompatible to the driver.
+An automatic upload will be initiated next time you open the camera. This upload will take several seconds. Do not switch off the power supply and do not unplug the camera! It is strongly recommended to upload the firmware over the button &apos;Starter Firmware Upload&apos;. The requested starter firmware version is %1.%2.%3</source>
+        <translation>相机的启动固件与驱动程序不兼容。
+下次打开相机时将自动开始上传，上传需要几秒钟。请勿关闭电源，也不要拔下相机！强烈建议通过“上传启动固件”按钮上传固件。所需的启动固件版本为 %1.%2.%3</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Status of device %1: The camera is currently running in the boot boost mode. It is configured correctly and can be opened.</source>
+        <translation>设备 %1 的状态：相机当前正在 Boot Boost 模式下运行。相机配置正确，可以打开。</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The camera is being used by another host and cannot be opened at the moment.</source>
+        <translation>相机正被另一台主机使用，目前无法打开。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The camera is not opened by another host and cannot be opened at the moment.</source>
+        <translation>相机未被其他主机打开，目前无法打开。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Transfer failed (Errorcode: %1): API DLL or kernel driver incompatible. Please reinstall the setup.</source>
+        <translation>传输失败（错误代码：%1）：API DLL 或内核驱动程序不兼容。请重新运行安装程序。</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <source>Status of device %1: %2</source>
+        <translation>设备 %1 的状态：%2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status of device %1: The camera is configured correctly and can be opened.</source>
+        <translation>设备 %1 的状态：相机配置正确，可以打开。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status of device %1: The camera is configured correctly and can be opened. Please note that this device currently is using a lower speed than supported by it.</source>
+        <translation>设备 %1 的状态：相机配置正确，可以打开。请注意，此设备当前的运行速度低于其支持的速度。</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No camera list available</source>
+        <translation>无可用的相机列表</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
+        <translation>注意：您使用的相机型号已不再受当前驱动程序版本支持。</translation>
+    </message>
+</context>
+<context>
+    <name>SystemdServiceManager</name>
+    <message>
+        <location filename="../../src/common/systemdservicemanager_linux.cpp" line="+77"/>
+        <source>there is no connection to D-Bus (%1).</source>
+        <translation>未连接到 D-Bus (%1)。</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>systemd does not run on this system.</source>
+        <translation>此系统未运行 systemd。</translation>
+    </message>
+</context>
+<context>
+    <name>UsbTopology</name>
+    <message>
+        <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
+        <source>USB Root Hub</source>
+        <translation>USB 根集线器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB Root Hub (USB %1)</source>
+        <translation>USB 根集线器 (USB %1)</translation>
+    </message>
+    <message>
+        <location line="+160"/>
+        <source>unkown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <location filename="../../src/app/apiversioncheck.cpp" line="+20"/>
+        <source>%4 Camera Manager %1 doesn&apos;t work with
+lib%4_api &lt; %2.%3!
+use a newer lib%4!</source>
+        <translation>%4 相机管理器 %1 无法与
+lib%4_api &lt; %2.%3 配合使用！
+请使用更新版本的 lib%4！</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/commandline.cpp" line="+9"/>
+        <source>Open Additional functions</source>
+        <translation>打开附加功能</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Daemon control</source>
+        <translation>打开守护进程控制</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 Camera Manager command line helper</source>
+        <translation>%1 相机管理器命令行帮助</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/identity.cpp" line="+29"/>
+        <source>%1 Camera Manager</source>
+        <translation>%1 相机管理器</translation>
+    </message>
+    <message>
+        <location filename="../../src/app/startup.cpp" line="+39"/>
+        <source>The camera driver refused the camera list&apos;s device events.
+Return code: %1</source>
+        <translation>相机驱动程序拒绝了相机列表的设备事件。
+返回代码：%1</translation>
+    </message>
+</context>
+</TS>
