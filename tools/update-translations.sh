@@ -3,5 +3,10 @@
 # shipped language. Translate the new entries with Qt Linguist afterwards.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-ts_files=(resources/translations/cameramanager_*.ts)
-lupdate -no-obsolete -locations relative src -ts "${ts_files[@]}"
+translated=()
+for ts in resources/translations/cameramanager_*.ts; do
+    [ "$ts" = resources/translations/cameramanager_en.ts ] || translated+=("$ts")
+done
+lupdate -no-obsolete -locations relative src -ts "${translated[@]}"
+# The sources are English; their file only carries plural forms.
+lupdate -pluralonly -no-obsolete -locations none src -ts resources/translations/cameramanager_en.ts

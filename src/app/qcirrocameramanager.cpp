@@ -10,6 +10,7 @@
 #include "camera/cameratableview.h"
 #include "camera/statusassessment.h"
 #include "common/servicemanager.h"
+#include "details/deviceinfoview.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -148,6 +149,9 @@ void QCirroCameramanager::createWidgets()
     m_detailsGroup = new QGroupBox(central);
     m_detailsGroup->setObjectName(QStringLiteral("deviceDetails"));
     m_detailsGroup->hide();
+    m_deviceDetails = new DeviceInfoView(m_detailsGroup);
+    m_deviceDetails->setObjectName(QStringLiteral("deviceDetailsView"));
+    (new QVBoxLayout(m_detailsGroup))->addWidget(m_deviceDetails);
 
     m_commandButtons = {{Command::GeneralInformation, m_generalInfo},
                         {Command::CameraInformation, m_cameraInfo},
@@ -242,6 +246,7 @@ void QCirroCameramanager::makeConnections()
     connect(m_cameraList, &CameraList::cameraChanged, this,
             [this](const camera::optional<Camera>& camera) { onCurrentCameraChanged(camera); });
     connect(m_cameraList, &CameraList::cameraListChanged, this, &QCirroCameramanager::onCameraListChanged);
+    connect(m_deviceDetails, &DeviceInfoView::updateNeeded, this, &QCirroCameramanager::onDeviceInfoUpdateNeeded);
     connect(m_cameraList, &CameraList::openCamera, this, &QCirroCameramanager::onOpenCamera);
     connect(m_cameraList, &CameraList::identCamera, this, &QCirroCameramanager::onIdentifyCamera);
     connect(m_cameraList, &CameraList::deletePMC, m_cameraList,
@@ -254,6 +259,8 @@ void QCirroCameramanager::fillLanguageSelector(const QString& directory)
     for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(directory))
         m_languageSelector->addItem(QIcon(entry.iconPath), entry.label, entry.locale);
     m_languageSelector->model()->sort(0, Qt::AscendingOrder);
+    // The current item moved with the sort; show the first entry.
+    m_languageSelector->setCurrentIndex(m_languageSelector->count() > 0 ? 0 : -1);
     const QString stored = QSettings(Identity::settingsOrganisation(), Identity::settingsApplication())
                                .value(settingsGroup + QStringLiteral("/selectedLanguage"),
                                       LanguageCatalog::defaultLanguage())
@@ -354,6 +361,9 @@ void QCirroCameramanager::onCameraListChanged()
     if (!m_expertMode->isChecked())
         return;
     updateDetails(false);
+    const Camera* camera = currentCamera();
+    if (camera && camera->kind() == Camera::Kind::Usb)
+        m_deviceDetails->UpdateUsbTopology();
 }
 
 void QCirroCameramanager::onDeviceInfoUpdateNeeded(bool force)
@@ -368,8 +378,7 @@ void QCirroCameramanager::OnCameraListRefresh()
 
 void QCirroCameramanager::UpdateDeviceInfo(const Camera* camera, bool force_reset)
 {
-    Q_UNUSED(camera)
-    Q_UNUSED(force_reset)
+    m_deviceDetails->Update(camera, force_reset);
     UpdateControls();
 }
 

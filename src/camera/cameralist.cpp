@@ -44,9 +44,9 @@ CameraList::CameraList(QWidget* viewParent, QObject* parent)
 
     connect(m_view, &CameraTableView::retranslationRequested, m_model, &CameraListModel::retranslate);
     connect(m_model, &CameraListModel::listChanged, this, &CameraList::cameraListChanged);
-    connect(m_model, &QAbstractItemModel::modelReset, m_view, &QTableView::resizeColumnsToContents);
+    connect(m_model, &QAbstractItemModel::modelReset, m_view, &CameraTableView::fitColumns);
     connect(m_proxy, &QAbstractItemModel::modelReset, this, &CameraList::reselectAfterReset);
-    m_view->resizeColumnsToContents();
+    m_view->fitColumns();
 }
 
 CameraList::~CameraList() = default;

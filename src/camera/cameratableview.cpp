@@ -51,5 +51,13 @@ void CameraTableView::currentChanged(const QModelIndex& current, const QModelInd
     const QVariant camera = current.data(CameraListModel::cameraRole);
     m_selection = camera.isValid() ? camera::optional<Camera>(camera.value<Camera>()) : std::nullopt;
     emit selectedCameraChanged(m_selection);
+    fitColumns();
+}
+
+void CameraTableView::fitColumns()
+{
     resizeColumnsToContents();
+    // Resizing the last section by hand ends its stretch; start it again.
+    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setStretchLastSection(true);
 }

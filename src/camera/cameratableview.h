@@ -17,6 +17,9 @@ public:
     const camera::optional<Camera>& selection() const { return m_selection; }
     // A reset forgets the current row; the owner makes a row current again.
     void reset() override;
+    // Every column as wide as its contents and header need, the last one
+    // stretched to the view's edge.
+    void fitColumns();
 
 signals:
     // The camera of the new current row; empty when no row is current.

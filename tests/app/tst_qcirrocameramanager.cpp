@@ -184,8 +184,10 @@ void TestMainWindow::storedLanguageWithoutFileStaysUnloaded()
     QSettings("Parvel", "CameraManager").setValue("mainWindow/selectedLanguage", "fr");
     const auto window = makeWindow();
     auto* languages = child<QComboBox>(*window, "languageSelector");
-    QCOMPARE(languages->count(), 2);
+    QCOMPARE(languages->count(), 3);
     QCOMPARE(languages->currentIndex(), 0);
+    // Sorted by label: "American English", "Deutsch", Chinese.
+    QCOMPARE(languages->itemData(0).toString(), QStringLiteral("en"));
     QVERIFY(window->currentLanguage().isEmpty());
     QCOMPARE(child<QPushButton>(*window, "close")->text(), QStringLiteral("Close"));
 }
@@ -212,6 +214,12 @@ void TestMainWindow::languageSwitchRetranslatesTheWindow()
     QTEST(child<QCheckBox>(*window, "expertMode")->text(), "expert");
     // The camera list's headers follow as well.
     QVERIFY(window->cameraList()->view()->model()->headerData(0, Qt::Horizontal).toString() != "Free");
+
+    // English, whose texts are the sources, brings them back.
+    const int english = languages->findData("en");
+    languages->setCurrentIndex(english);
+    QCOMPARE(child<QPushButton>(*window, "close")->text(), QStringLiteral("Close"));
+    QCOMPARE(window->cameraList()->view()->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Free"));
 }
 
 void TestMainWindow::expertModeWithoutCamera()
