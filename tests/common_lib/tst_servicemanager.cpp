@@ -5,25 +5,16 @@
 
 #include <QtTest>
 
-// Receives the service states as the ETH service dialog will: through a
-// queued connection.
-class StatesReceiver : public QObject
-{
-    Q_OBJECT
-
-public:
-    CoreStates received;
-
-public slots:
-    void onChangedCirrodStatus(CoreStates status) { received = status; }
-};
-
 class TestServiceManager : public QObject
 {
     Q_OBJECT
 
 signals:
     void CirrodStatusChanged(CoreStates status);
+
+public slots:
+    // Receives the states as the ETH service dialog will.
+    void onChangedCirrodStatus(CoreStates status) { m_received = status; }
 
 private slots:
     void initTestCase();
@@ -33,6 +24,7 @@ private slots:
 
 private:
     SimDriverFixture::EmptyConfigRoot m_configRoot;
+    CoreStates m_received;
 };
 
 void TestServiceManager::initTestCase()
@@ -68,19 +60,21 @@ void TestServiceManager::changedStatesArriveQueued()
     QFETCH(int, usb);
     QFETCH(int, eth);
     CoreStates::registerMetaType();
-    StatesReceiver receiver;
+    m_received = CoreStates();
     // By signature, as a dialog connects to the main window's signal: only a
     // registered type can be queued that way.
-    QVERIFY(connect(this, SIGNAL(CirrodStatusChanged(CoreStates)), &receiver, SLOT(onChangedCirrodStatus(CoreStates)),
-                    Qt::QueuedConnection));
+    const QMetaObject::Connection connection = connect(this, SIGNAL(CirrodStatusChanged(CoreStates)), this,
+                                                       SLOT(onChangedCirrodStatus(CoreStates)), Qt::QueuedConnection);
+    QVERIFY(connection);
     CoreStates sent;
     sent.usb = CoreStates::State(usb);
     sent.eth = CoreStates::State(eth);
-    QVERIFY(receiver.received != sent);
+    QVERIFY(m_received != sent);
     emit CirrodStatusChanged(sent);
-    QTRY_VERIFY(receiver.received == sent);
-    QCOMPARE(int(receiver.received.usb), usb);
-    QCOMPARE(int(receiver.received.eth), eth);
+    QTRY_VERIFY(m_received == sent);
+    disconnect(connection);
+    QCOMPARE(int(m_received.usb), usb);
+    QCOMPARE(int(m_received.eth), eth);
 }
 
 QTEST_GUILESS_MAIN(TestServiceManager)

@@ -18,42 +18,23 @@ const QString root = QStringLiteral("/org/freedesktop/systemd1");
 const QString unitRoot = root + QStringLiteral("/unit/");
 const QString accessDenied = QStringLiteral("org.freedesktop.DBus.Error.AccessDenied");
 const QString noSuchUnit = QStringLiteral("org.freedesktop.systemd1.NoSuchUnit");
+const QString loadedState = QStringLiteral("loaded");
+const QString notFoundState = QStringLiteral("not-found");
 
 struct Unit
 {
-    QString loadState = QStringLiteral("loaded");
-    QString activeState = QStringLiteral("inactive");
+    QString loadState;
+    QString activeState;
     QString loadError;   // LoadUnit answers with this error
     QString changeError; // StartUnit and StopUnit answer with this error
     bool hasObject = true; // false: the unit's object answers no property
 };
 
+const Unit withoutUnitFile{notFoundState, QStringLiteral("inactive"), {}, {}, true};
+
 Unit loaded(const QString& activeState)
 {
-    Unit unit;
-    unit.activeState = activeState;
-    return unit;
-}
-
-Unit withoutUnitFile()
-{
-    Unit unit;
-    unit.loadState = QStringLiteral("not-found");
-    return unit;
-}
-
-Unit unloadable(const QString& error)
-{
-    Unit unit;
-    unit.loadError = error;
-    return unit;
-}
-
-Unit unchangeable(const QString& activeState)
-{
-    Unit unit = loaded(activeState);
-    unit.changeError = accessDenied;
-    return unit;
+    return {loadedState, activeState, {}, {}, true};
 }
 
 } // namespace
@@ -101,7 +82,7 @@ private:
     QDBusMessage loadUnit(const QDBusMessage& message)
     {
         const QString name = message.arguments().value(0).toString();
-        const Unit unit = m_units.value(name, withoutUnitFile());
+        const Unit unit = m_units.value(name, withoutUnitFile);
         if (!unit.loadError.isEmpty())
             return message.createErrorReply(unit.loadError, QStringLiteral("Refused by the test"));
         m_units.insert(name, unit);
@@ -114,12 +95,12 @@ private:
     QDBusMessage changeUnit(const QDBusMessage& message)
     {
         const QString name = message.arguments().value(0).toString();
-        const Unit unit = m_units.value(name, withoutUnitFile());
+        const Unit unit = m_units.value(name, withoutUnitFile);
         m_calls << message.member() + QLatin1Char(' ') + name + QLatin1Char(' ')
                        + message.arguments().value(1).toString();
         if (!unit.changeError.isEmpty())
             return message.createErrorReply(unit.changeError, QStringLiteral("Interactive authentication required."));
-        if (unit.loadState == QLatin1String("not-found"))
+        if (unit.loadState == notFoundState)
             return message.createErrorReply(noSuchUnit, QStringLiteral("Unit %1 not found.").arg(name));
         const bool start = message.member() == QLatin1String("StartUnit");
         m_units[name].activeState = start ? QStringLiteral("active") : QStringLiteral("inactive");
@@ -204,14 +185,13 @@ void TestSystemdServiceManager::state_data()
     QTest::newRow("activating") << loaded("activating") << int(CoreStates::NotRunning);
     QTest::newRow("deactivating") << loaded("deactivating") << int(CoreStates::NotRunning);
     QTest::newRow("active state of no meaning here") << loaded("maintenance") << int(CoreStates::Unknown);
-    QTest::newRow("no unit file") << withoutUnitFile() << int(CoreStates::NotInstalled);
-    QTest::newRow("no such unit") << unloadable(noSuchUnit) << int(CoreStates::NotInstalled);
-    QTest::newRow("manager refuses") << unloadable(accessDenied) << int(CoreStates::NoAccess);
-    QTest::newRow("manager fails") << unloadable(QStringLiteral("org.freedesktop.DBus.Error.Failed"))
+    QTest::newRow("no unit file") << withoutUnitFile << int(CoreStates::NotInstalled);
+    QTest::newRow("no such unit") << Unit{{}, {}, noSuchUnit, {}, true} << int(CoreStates::NotInstalled);
+    QTest::newRow("manager refuses") << Unit{{}, {}, accessDenied, {}, true} << int(CoreStates::NoAccess);
+    QTest::newRow("manager fails") << Unit{{}, {}, QStringLiteral("org.freedesktop.DBus.Error.Failed"), {}, true}
                                    << int(CoreStates::Unknown);
-    Unit withoutObject = loaded("active");
-    withoutObject.hasObject = false;
-    QTest::newRow("unit properties unreadable") << withoutObject << int(CoreStates::Unknown);
+    QTest::newRow("unit properties unreadable") << Unit{loadedState, QStringLiteral("active"), {}, {}, false}
+                                                << int(CoreStates::Unknown);
 }
 
 void TestSystemdServiceManager::state()
@@ -242,11 +222,11 @@ void TestSystemdServiceManager::change_data()
     const QString refusal = QStringLiteral("Interactive authentication required.");
     QTest::newRow("start") << loaded("inactive") << true << starting << QString() << int(CoreStates::Running);
     QTest::newRow("stop") << loaded("active") << false << stopping << QString() << int(CoreStates::NotRunning);
-    QTest::newRow("start refused") << unchangeable("inactive") << true << starting << refusal
-                                   << int(CoreStates::NotRunning);
-    QTest::newRow("stop refused") << unchangeable("active") << false << stopping << refusal
-                                  << int(CoreStates::Running);
-    QTest::newRow("start without unit file") << withoutUnitFile() << true << starting
+    QTest::newRow("start refused") << Unit{loadedState, QStringLiteral("inactive"), {}, accessDenied, true} << true
+                                   << starting << refusal << int(CoreStates::NotRunning);
+    QTest::newRow("stop refused") << Unit{loadedState, QStringLiteral("active"), {}, accessDenied, true} << false
+                                  << stopping << refusal << int(CoreStates::Running);
+    QTest::newRow("start without unit file") << withoutUnitFile << true << starting
                                              << QStringLiteral("not installed") << int(CoreStates::NotInstalled);
 }
 
