@@ -7,7 +7,7 @@ packages=(
     build-essential cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libboost-dev libbenchmark-dev
-    iproute2 xvfb xauth fonts-dejavu-core
+    iproute2 xvfb xauth fonts-dejavu-core fonts-droid-fallback
     pci.ids usb.ids dbus-daemon
 )
 

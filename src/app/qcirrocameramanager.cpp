@@ -126,8 +126,6 @@ void QCirroCameramanager::createWidgets()
     m_busyIndicator = new QLabel(m_statusGroup);
     m_busyIndicator->setObjectName(QStringLiteral("busyIndicator"));
     m_busyIndicator->setMaximumWidth(busyIndicatorMaxWidth);
-    m_busyMovie = new QMovie(QStringLiteral(":/images/indicator.gif"), QByteArray(), this);
-    m_busyIndicator->setMovie(m_busyMovie);
     m_busyIndicator->hide();
     m_statusText = new QLabel(m_statusGroup);
     m_statusText->setObjectName(QStringLiteral("statusText"));
@@ -426,10 +424,16 @@ void QCirroCameramanager::Printer(const QString& text, const QColor& textcolour,
         return;
     m_statusText->setText(fontColoured(textcolour.name(), text));
     if (bShowProgress) {
+        // Made on first use: decoding the animation costs start-up time.
+        if (!m_busyMovie) {
+            m_busyMovie = new QMovie(QStringLiteral(":/images/indicator.gif"), QByteArray(), this);
+            m_busyIndicator->setMovie(m_busyMovie);
+        }
         m_busyMovie->start();
         m_busyIndicator->show();
     } else {
-        m_busyMovie->stop();
+        if (m_busyMovie)
+            m_busyMovie->stop();
         m_busyIndicator->hide();
     }
 }

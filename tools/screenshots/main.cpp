@@ -62,6 +62,10 @@ int main(int argc, char* argv[])
         return 2;
     }
     const QDir output(QString::fromLocal8Bit(argv[1]));
+    if (!output.mkpath(QStringLiteral("."))) {
+        std::fprintf(stderr, "cannot create %s\n", argv[1]);
+        return 1;
+    }
     QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QSettings(Identity::settingsOrganisation(), Identity::settingsApplication())
