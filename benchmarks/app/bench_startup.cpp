@@ -9,6 +9,7 @@
 #include "app/qcirrocameramanager.h"
 #include "app/startup.h"
 
+#include "benchmarkfleet.h"
 #include "samplestatistics.h"
 
 #include <cirro_api.h>
@@ -16,9 +17,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMainWindow>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -81,25 +79,10 @@ int runBareWindow(int argc, char** argv)
 
 QString writeFleet(const QTemporaryDir& dir, int cameras)
 {
-    QJsonArray list;
-    for (int i = 0; i < cameras; ++i) {
-        const bool usb = i < 900;
-        QJsonObject camera{{"kind", usb ? "usb" : "eth"},
-                           {"serial", QStringLiteral("START%1").arg(i, 5, 10, QLatin1Char('0'))},
-                           {"fullModel", usb ? "CRU3-50M" : "CRG5-12C"},
-                           {"typeCode", usb ? 98 : 138}};
-        if (!usb) {
-            camera["adapter"] = "simnet0";
-            camera["mac"] = QStringLiteral("00:1c:c1:02:00:%1").arg(i % 256, 2, 16, QLatin1Char('0'));
-        }
-        list.append(camera);
-    }
-    QJsonObject adapter{{"name", "simnet0"}, {"mac", "02:c1:5e:00:0a:01"}, {"ip", "192.168.91.1"},
-                        {"mask", "255.255.0.0"}};
     QFile file(dir.filePath(QStringLiteral("fleet.json")));
     if (!file.open(QIODevice::WriteOnly))
         return QString();
-    file.write(QJsonDocument(QJsonObject{{"adapters", QJsonArray{adapter}}, {"cameras", list}}).toJson());
+    file.write(benchmarkFleet(cameras, 900));
     return file.fileName();
 }
 

@@ -7,6 +7,7 @@
 
 #include "camera/cameralistmodel.h"
 
+#include "benchmarkfleet.h"
 #include "samplestatistics.h"
 
 #include <cirro_api.h>
@@ -14,9 +15,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <benchmark/benchmark.h>
 
@@ -30,32 +28,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// USB cameras first (device IDs 0-999), then GigE cameras on one adapter.
-QByteArray fleetOf(int count)
-{
-    QJsonArray cameras;
-    for (int i = 0; i < count; ++i) {
-        const bool usb = i < 600;
-        QJsonObject camera{{"kind", usb ? "usb" : "eth"},
-                           {"serial", QStringLiteral("BENCH%1").arg(i, 5, 10, QLatin1Char('0'))},
-                           {"fullModel", usb ? "CRU3-50M" : "CRG5-12C"},
-                           {"typeCode", usb ? 98 : 138}};
-        if (!usb) {
-            camera["adapter"] = "simnet0";
-            camera["mac"] = QStringLiteral("00:1c:c1:01:%1:%2").arg(i / 256, 2, 16, QLatin1Char('0'))
-                                .arg(i % 256, 2, 16, QLatin1Char('0'));
-        }
-        cameras.append(camera);
-    }
-    QJsonObject adapter{{"name", "simnet0"},   {"mac", "02:c1:5e:00:09:01"}, {"ip", "192.168.90.1"},
-                        {"mask", "255.255.0.0"}, {"linkSpeed", 1000}};
-    QJsonObject scenario{{"adapters", QJsonArray{adapter}}, {"cameras", cameras}};
-    return QJsonDocument(scenario).toJson(QJsonDocument::Compact);
-}
-
 bool loadFleet(benchmark::State& state, int count)
 {
-    if (pvsim_LoadScenarioText(fleetOf(count).constData()) != PV_OK) {
+    if (pvsim_LoadScenarioText(benchmarkFleet(count, 600).constData()) != PV_OK) {
         state.SkipWithError("the simulated driver refused the fleet");
         return false;
     }

@@ -1,6 +1,7 @@
 #include "app/controlstates.h"
 #include "camera/camera.h"
 
+#include "fleetcamera.h"
 #include "simdriverfixture.h"
 
 #include <QtTest>
@@ -9,15 +10,6 @@ using namespace SimDriverFixture;
 using Command = ControlStates::Command;
 
 namespace {
-
-Camera fleetCamera(quint32 deviceId)
-{
-    for (const pv_CameraListEntry& entry : list()) {
-        if (entry.deviceId == deviceId)
-            return Camera(entry, 0);
-    }
-    return Camera();
-}
 
 QString names(const QSet<Command>& commands)
 {

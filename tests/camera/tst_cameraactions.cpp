@@ -1,23 +1,11 @@
 #include "camera/cameraactions.h"
 
+#include "fleetcamera.h"
 #include "simdriverfixture.h"
 
 #include <QtTest>
 
 using namespace SimDriverFixture;
-
-namespace {
-
-Camera fleetCamera(quint32 deviceId)
-{
-    for (const pv_CameraListEntry& entry : list()) {
-        if (entry.deviceId == deviceId)
-            return Camera(entry, 0);
-    }
-    return Camera();
-}
-
-} // namespace
 
 class TestCameraActions : public QObject
 {
