@@ -814,7 +814,7 @@
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/qcirrocameramanager.cpp" line="+279"/>
+        <location filename="../../src/app/qcirrocameramanager.cpp" line="+277"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -957,7 +957,7 @@
         <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
     </message>
     <message>
-        <location line="+147"/>
+        <location line="+153"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>

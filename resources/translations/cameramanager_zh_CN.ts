@@ -388,7 +388,7 @@
     <message>
         <location line="+3"/>
         <source>Designation</source>
-        <translation>标识</translation>
+        <translation>名称</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -814,7 +814,7 @@
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/qcirrocameramanager.cpp" line="+279"/>
+        <location filename="../../src/app/qcirrocameramanager.cpp" line="+277"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -957,7 +957,7 @@
         <translation>%1 相机管理器正在以 root 权限运行！</translation>
     </message>
     <message>
-        <location line="+147"/>
+        <location line="+153"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
