@@ -43,6 +43,7 @@ CameraList::CameraList(QWidget* viewParent, QObject* parent)
     m_view->sortByColumn(CameraListModel::DeviceId, Qt::AscendingOrder);
 
     connect(m_view, &CameraTableView::retranslationRequested, m_model, &CameraListModel::retranslate);
+    connect(m_view, &CameraTableView::retranslationRequested, m_view, &CameraTableView::fitColumns);
     connect(m_model, &CameraListModel::listChanged, this, &CameraList::cameraListChanged);
     connect(m_model, &QAbstractItemModel::modelReset, m_view, &CameraTableView::fitColumns);
     connect(m_proxy, &QAbstractItemModel::modelReset, this, &CameraList::reselectAfterReset);

@@ -97,6 +97,9 @@ void CameraListModel::retranslate()
     headers = QStringList{tr("Free"), tr("Avail."), tr("Type"), tr("Cam. ID"), tr("Dev. ID"), tr("Model"),
                           tr("Ser. No.")};
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    // The Free and Avail. texts are translated too.
+    if (!cameras.isEmpty())
+        emit dataChanged(index(0, 0), index(cameras.size() - 1, ColumnCount - 1), {Qt::DisplayRole});
 }
 
 void CameraListModel::onCameraListChanged()
