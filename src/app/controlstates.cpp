@@ -6,14 +6,11 @@ namespace ControlStates {
 
 namespace {
 
-constexpr quint32 freeBit = 0x100;
-constexpr quint32 reachableBit = 0x1;
-constexpr quint32 ipConfigurableBits = 0x6;
 constexpr quint32 refusedListBits = 0x3;
 
 bool isFreeGigE(const Camera& camera)
 {
-    return camera.kind() == Camera::Kind::Eth && !camera.inUse() && (camera.deviceStatus() & freeBit);
+    return camera.kind() == Camera::Kind::Eth && !camera.inUse() && camera.isFree();
 }
 
 } // namespace
@@ -23,7 +20,7 @@ bool qualifiesForCameraInformation(const Camera& camera)
     const Camera::Kind kind = camera.kind();
     if (kind == Camera::Kind::Usb || kind == Camera::Kind::Sdk)
         return !camera.inUse() && !(camera.status() & refusedListBits);
-    return camera.deviceControlStatus() & reachableBit;
+    return camera.isReachable();
 }
 
 QSet<Command> usable(const Camera* camera, bool ethInstalled)
@@ -35,12 +32,12 @@ QSet<Command> usable(const Camera* camera, bool ethInstalled)
     if (qualifiesForCameraInformation(*camera))
         commands << Command::CameraInformation;
     if (ethInstalled && camera->kind() == Camera::Kind::Eth) {
-        if (camera->deviceControlStatus() & ipConfigurableBits)
+        if (camera->isAddressAccessible())
             commands << Command::ManualEthConfiguration;
         if (isFreeGigE(*camera))
             commands << Command::AutomaticEthConfiguration;
     }
-    if (isFreeGigE(*camera) && (camera->deviceControlStatus() & reachableBit))
+    if (isFreeGigE(*camera) && camera->isReachable())
         commands << Command::UploadFirmware;
     return commands;
 }

@@ -69,6 +69,15 @@ public:
     quint32 deviceStatus() const { return m_info.deviceStatus; }
     quint32 deviceControlStatus() const { return m_info.deviceControlStatus; }
     quint8 deviceFlags() const { return m_info.deviceFlags; }
+    // No host holds the device (status word bit 8).
+    bool isFree() const { return m_info.deviceStatus & PV_STATUS_UNPAIRED; }
+    // The driver reaches the device (control word bit 0).
+    bool isReachable() const { return m_info.deviceControlStatus & PV_CONTROL_AVAILABLE; }
+    // The driver can write the device's address (control word bit 1 or 2).
+    bool isAddressAccessible() const
+    {
+        return m_info.deviceControlStatus & (PV_CONTROL_ACCESSIBLE_1 | PV_CONTROL_ACCESSIBLE_2);
+    }
     QString firmwareVersion() const;
     QString firmwareRevisionText() const;
     QString temperatureText() const;

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr quint32 ipConfigurableBits = 0x6;
 constexpr quint8 sdkGigETypeCode = 226;
 constexpr quint8 cameraInfoFeatureTypeCode = 0x40;
 
@@ -146,7 +145,7 @@ void CameraList::addNetworkActions(QMenu& menu, const Camera& camera)
     if (isGigELike(camera)) {
         QAction* ip = menu.addAction(tr("Manual ETH configuration"), this,
                                      [this, camera] { emit openIPSettings(camera); });
-        ip->setEnabled(m_abilities.networkToolsAvailable && (camera.deviceControlStatus() & ipConfigurableBits)
+        ip->setEnabled(m_abilities.networkToolsAvailable && camera.isAddressAccessible()
                        && camera.typeCode() != sdkGigETypeCode);
         menu.addAction(tr("&Add Readonly Device"), this, [this, camera] { emit openMulticastSettings(camera); });
     }
@@ -176,14 +175,18 @@ void CameraList::refetch()
 
 void CameraList::reselectAfterReset()
 {
-    if (!m_selectedCamera)
-        return;
+    if (m_selectedCamera && !selectDevice(m_selectedCamera->deviceId()))
+        onSelectedCameraChanged(std::nullopt);
+}
+
+bool CameraList::selectDevice(quint32 deviceId)
+{
     const QList<std::shared_ptr<Camera>>& cameras = m_model->cameraList();
     for (int row = 0; row < cameras.size(); ++row) {
-        if (cameras.at(row)->deviceId() == m_selectedCamera->deviceId()) {
+        if (cameras.at(row)->deviceId() == deviceId) {
             m_view->setCurrentIndex(m_proxy->mapFromSource(m_model->index(row, 0)));
-            return;
+            return true;
         }
     }
-    onSelectedCameraChanged(std::nullopt);
+    return false;
 }

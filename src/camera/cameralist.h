@@ -40,6 +40,8 @@ public:
     CameraListModel* model() const { return m_model; }
     const camera::optional<Camera>& selectedCamera() const { return m_selectedCamera; }
     QList<Camera> availableCameras() const;
+    // Makes the camera's row current; false when the device is not listed.
+    bool selectDevice(quint32 deviceId);
     // Reads the selected camera's device information again, without a signal.
     void refreshSelectedCamera();
 

@@ -7,19 +7,12 @@
 
 namespace {
 
-constexpr quint32 freeBit = 0x100;
-constexpr quint32 reachableBit = 0x1;
 const QString modelPrefix = QStringLiteral("CR");
 
 bool usesListStatus(const Camera& camera)
 {
     const Camera::Kind kind = camera.kind();
     return kind == Camera::Kind::Usb || kind == Camera::Kind::Sdk;
-}
-
-bool reachable(const Camera& camera)
-{
-    return camera.deviceControlStatus() & reachableBit;
 }
 
 QString image(const char* name)
@@ -159,8 +152,8 @@ QString CameraListModel::freeText(const Camera& camera)
 {
     if (usesListStatus(camera))
         return camera.inUse() ? tr("No") : tr("Yes");
-    if (!(camera.deviceStatus() & freeBit))
-        return reachable(camera) ? tr("Yes (BB)") : tr("No");
+    if (!camera.isFree())
+        return camera.isReachable() ? tr("Yes (BB)") : tr("No");
     return tr("Yes");
 }
 
@@ -170,7 +163,7 @@ bool CameraListModel::isAvailable(const Camera& camera)
         return false;
     if (usesListStatus(camera))
         return (camera.status() & 0xF) == 0;
-    return reachable(camera);
+    return camera.isReachable();
 }
 
 QString CameraListModel::availableText(const Camera& camera)
@@ -183,10 +176,10 @@ QString CameraListModel::iconName(const Camera& camera)
     const Camera::Kind kind = camera.kind();
     const bool u3v = kind == Camera::Kind::Sdk && camera.typeCode() == 225;
     if (kind == Camera::Kind::Eth) {
-        if (reachable(camera))
+        if (camera.isReachable())
             return camera.starterFirmware() != camera.driverFirmwareImage() ? image("eth_warning2.png")
                                                                              : image("eth_connect.png");
-        return (camera.deviceStatus() & freeBit) ? image("eth_warning.png") : image("eth_disconnected.png");
+        return camera.isFree() ? image("eth_warning.png") : image("eth_disconnected.png");
     }
     if (kind == Camera::Kind::ReadOnly || kind == Camera::Kind::Unknown)
         return camera.inUse() ? image("eth_disconnected.png") : image("eth_connect.png");

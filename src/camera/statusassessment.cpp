@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr quint32 freeBit = 0x100;
-constexpr quint32 reachableBit = 0x1;
 
 StatusAssessment make(QString message, QColor colour)
 {
@@ -130,8 +128,8 @@ StatusAssessment assessReachableGige(const Camera& camera, bool free)
 
 StatusAssessment assessEthernet(const Camera& camera)
 {
-    const bool free = camera.deviceStatus() & freeBit;
-    const bool reachable = camera.deviceControlStatus() & reachableBit;
+    const bool free = camera.isFree();
+    const bool reachable = camera.isReachable();
     const bool readOnly = camera.kind() == Camera::Kind::ReadOnly;
     StatusAssessment result;
     if (free && !reachable)

@@ -112,15 +112,7 @@ std::unique_ptr<QCirroCameramanager> TestMainWindow::makeWindow(const QString& t
 
 void TestMainWindow::select(QCirroCameramanager& window, quint32 deviceId)
 {
-    const QAbstractItemModel* model = window.cameraList()->view()->model();
-    for (int row = 0; row < model->rowCount(); ++row) {
-        const QModelIndex index = model->index(row, 4);
-        if (index.data().toUInt() == deviceId) {
-            window.cameraList()->view()->setCurrentIndex(index);
-            return;
-        }
-    }
-    QFAIL("camera not in the list");
+    QVERIFY2(window.cameraList()->selectDevice(deviceId), "camera not in the list");
 }
 
 void TestMainWindow::oneStatusSignalPerServiceChange()

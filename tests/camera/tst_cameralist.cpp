@@ -85,17 +85,9 @@ void TestCameraList::cleanup()
 
 void TestCameraList::select(quint32 deviceId)
 {
-    const QAbstractItemModel* model = list->view()->model();
-    for (int row = 0; row < model->rowCount(); ++row) {
-        const QModelIndex index = model->index(row, CameraListModel::DeviceId);
-        if (index.data().toUInt() == deviceId) {
-            list->view()->setCurrentIndex(index);
-            QVERIFY(list->selectedCamera());
-            QCOMPARE(list->selectedCamera()->deviceId(), deviceId);
-            return;
-        }
-    }
-    QFAIL(qPrintable(QStringLiteral("device %1 is not in the table").arg(deviceId)));
+    QVERIFY2(list->selectDevice(deviceId), qPrintable(QStringLiteral("device %1 is not listed").arg(deviceId)));
+    QVERIFY(list->selectedCamera());
+    QCOMPARE(list->selectedCamera()->deviceId(), deviceId);
 }
 
 void TestCameraList::contextMenuEntries_data()

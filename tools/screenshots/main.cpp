@@ -6,7 +6,6 @@
 #include "app/identity.h"
 #include "app/qcirrocameramanager.h"
 #include "camera/cameralist.h"
-#include "camera/cameratableview.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -20,16 +19,6 @@
 #include <cstdio>
 
 namespace {
-
-void select(QCirroCameramanager& window, quint32 deviceId)
-{
-    QAbstractItemModel* model = window.cameraList()->view()->model();
-    for (int row = 0; row < model->rowCount(); ++row) {
-        const QModelIndex index = model->index(row, 4);
-        if (index.data().toUInt() == deviceId)
-            window.cameraList()->view()->setCurrentIndex(index);
-    }
-}
 
 bool save(QWidget& window, const QDir& directory, const QString& name)
 {
@@ -76,20 +65,20 @@ int main(int argc, char* argv[])
     if (!QTest::qWaitForWindowExposed(&window))
         return 1;
     bool ok = true;
-    select(window, 1000);
+    window.cameraList()->selectDevice(1000);
     ok = save(window, output, QStringLiteral("main-window")) && ok;
 
     window.findChild<QCheckBox*>(QStringLiteral("expertMode"))->setChecked(true);
     window.resize(1400, 860);
-    select(window, 1000);
+    window.cameraList()->selectDevice(1000);
     ok = save(window, output, QStringLiteral("expert-gige")) && ok;
-    select(window, 0);
+    window.cameraList()->selectDevice(0);
     ok = save(window, output, QStringLiteral("expert-usb")) && ok;
 
     window.findChild<QCheckBox*>(QStringLiteral("expertMode"))->setChecked(false);
     window.resize(960, 780);
     ok = setLanguage(window, QStringLiteral("de")) && ok;
-    select(window, 1001);
+    window.cameraList()->selectDevice(1001);
     ok = save(window, output, QStringLiteral("main-window-de")) && ok;
     ok = setLanguage(window, QStringLiteral("zh_CN")) && ok;
     ok = save(window, output, QStringLiteral("main-window-zh_CN")) && ok;
