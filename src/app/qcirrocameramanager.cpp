@@ -165,6 +165,9 @@ void QCirroCameramanager::buildLayout()
 {
     auto* listLayout = new QVBoxLayout(m_cameraListGroup);
     m_cameraList = new CameraList(m_cameraListGroup, this);
+    CameraList::HostAbilities abilities;
+    abilities.elevated = Elevation::isElevated();
+    m_cameraList->setHostAbilities(abilities);
     listLayout->addWidget(m_cameraList->view());
 
     auto* leftColumn = new QVBoxLayout;

@@ -116,10 +116,12 @@ std::unique_ptr<QMenu> CameraList::createContextMenu()
     const camera::optional<Camera> camera = m_selectedCamera;
 
     if (camera && !camera->inUse()) {
-        menu->addAction(QIcon(QStringLiteral(":/images/openplay.png")), tr("&Open this camera"), this,
-                        [this, camera] { emit openCamera(QList<Camera>{*camera}); });
+        addEntry(*menu, tr("&Open this camera"), &CameraList::openCamera, QList<Camera>{*camera})
+            ->setIcon(QIcon(QStringLiteral(":/images/openplay.png")));
     }
-    menu->addAction(tr("Open &all available cameras"), this, [this] { emit openCamera(availableCameras()); });
+    QAction* all = menu->addAction(tr("Open &all available cameras"), this,
+                                   [this] { emit openCamera(availableCameras()); });
+    all->setEnabled(isHandled(&CameraList::openCamera));
     menu->addSeparator();
     if (camera)
         addCameraActions(*menu, *camera);
@@ -131,31 +133,29 @@ std::unique_ptr<QMenu> CameraList::createContextMenu()
 
 void CameraList::addCameraActions(QMenu& menu, const Camera& camera)
 {
-    menu.addAction(tr("&Identify this camera"), this, [this, camera] { emit identCamera(camera); });
+    addEntry(menu, tr("&Identify this camera"), &CameraList::identCamera, camera);
     if (camera.inUse())
         return;
     menu.addSeparator();
-    QAction* info = menu.addAction(tr("&Camera information"), this, [this, camera] { emit openCameraInfo(camera); });
-    info->setEnabled(cameraInfoEnabled(camera));
+    QAction* info = addEntry(menu, tr("&Camera information"), &CameraList::openCameraInfo, camera);
+    info->setEnabled(info->isEnabled() && cameraInfoEnabled(camera));
     menu.addSeparator();
 }
 
 void CameraList::addNetworkActions(QMenu& menu, const Camera& camera)
 {
     if (isGigELike(camera)) {
-        QAction* ip = menu.addAction(tr("Manual ETH configuration"), this,
-                                     [this, camera] { emit openIPSettings(camera); });
-        ip->setEnabled(m_abilities.networkToolsAvailable && camera.isAddressAccessible()
+        QAction* ip = addEntry(menu, tr("Manual ETH configuration"), &CameraList::openIPSettings, camera);
+        ip->setEnabled(ip->isEnabled() && m_abilities.networkToolsAvailable && camera.isAddressAccessible()
                        && camera.typeCode() != sdkGigETypeCode);
-        menu.addAction(tr("&Add Readonly Device"), this, [this, camera] { emit openMulticastSettings(camera); });
+        addEntry(menu, tr("&Add Readonly Device"), &CameraList::openMulticastSettings, camera);
     }
     if (camera.kind() == Camera::Kind::ReadOnly)
-        menu.addAction(tr("&Delete"), this, [this, camera] { emit deletePMC(camera); });
+        addEntry(menu, tr("&Delete"), &CameraList::deletePMC, camera);
     if (camera.isComPortCapable() && m_abilities.comPortSupportInstalled) {
         menu.addSeparator();
-        QAction* com = menu.addAction(tr("COM port configuration"), this,
-                                      [this, camera] { emit openComportDlg(camera); });
-        com->setEnabled(m_abilities.elevated);
+        QAction* com = addEntry(menu, tr("COM port configuration"), &CameraList::openComportDlg, camera);
+        com->setEnabled(com->isEnabled() && m_abilities.elevated);
         if (!m_abilities.elevated)
             com->setToolTip(tr("Restart with elevated privileges!"));
     }

@@ -3,13 +3,14 @@
 #include "camera/camera.h"
 
 #include <QList>
+#include <QMenu>
+#include <QMetaMethod>
 #include <QObject>
 
 #include <memory>
 
 class CameraListModel;
 class CameraTableView;
-class QMenu;
 class QSortFilterProxyModel;
 class QTimer;
 
@@ -76,6 +77,17 @@ private:
     void addNetworkActions(QMenu& menu, const Camera& camera);
     bool cameraInfoEnabled(const Camera& camera) const;
 
+    // A menu entry that emits the signal with the argument; it is disabled
+    // while nothing handles that signal, so that it never does nothing.
+    template <typename Argument>
+    QAction* addEntry(QMenu& menu, const QString& text, void (CameraList::*signal)(const Argument&),
+                      const Argument& argument);
+    template <typename Signal>
+    bool isHandled(Signal signal) const
+    {
+        return isSignalConnected(QMetaMethod::fromSignal(signal));
+    }
+
     CameraTableView* m_view = nullptr;
     QSortFilterProxyModel* m_proxy = nullptr;
     CameraListModel* m_model = nullptr;
@@ -83,3 +95,12 @@ private:
     camera::optional<Camera> m_selectedCamera;
     HostAbilities m_abilities;
 };
+
+template <typename Argument>
+QAction* CameraList::addEntry(QMenu& menu, const QString& text, void (CameraList::*signal)(const Argument&),
+                              const Argument& argument)
+{
+    QAction* action = menu.addAction(text, this, [this, signal, argument] { emit(this->*signal)(argument); });
+    action->setEnabled(isHandled(signal));
+    return action;
+}

@@ -48,6 +48,7 @@ private slots:
     void contextMenuEntries_data();
     void contextMenuEntries();
     void comPortEntryNeedsSupportAndRights();
+    void entriesNobodyHandlesAreDisabled();
     void menuEntriesCarryTheSelectedCamera();
     void activationOpensTheSelectedCamera();
     void sortingKeepsTheSelection();
@@ -59,6 +60,7 @@ private slots:
 
 private:
     void select(quint32 deviceId);
+    static void handleEveryRequest(CameraList& cameras);
 
     std::unique_ptr<QWidget> window;
     std::unique_ptr<CameraList> list;
@@ -75,6 +77,17 @@ void TestCameraList::init()
     QVERIFY(reset());
     window = std::make_unique<QWidget>();
     list = std::make_unique<CameraList>(window.get());
+    handleEveryRequest(*list);
+}
+
+// As the main window does once every dialog exists.
+void TestCameraList::handleEveryRequest(CameraList& cameras)
+{
+    const auto ignore = [] {};
+    connect(&cameras, &CameraList::openCamera, &cameras, ignore);
+    for (auto signal : {&CameraList::identCamera, &CameraList::openIPSettings, &CameraList::openMulticastSettings,
+                        &CameraList::openCameraInfo, &CameraList::deletePMC, &CameraList::openComportDlg})
+        connect(&cameras, signal, &cameras, ignore);
 }
 
 void TestCameraList::cleanup()
@@ -140,6 +153,18 @@ void TestCameraList::comPortEntryNeedsSupportAndRights()
 
     select(1000);
     QVERIFY(!entry(*list->createContextMenu(), com));
+}
+
+void TestCameraList::entriesNobodyHandlesAreDisabled()
+{
+    list.reset(); // one camera list per process holds the driver's events
+    CameraList bare(window.get());
+    connect(&bare, &CameraList::identCamera, &bare, [] {});
+    QVERIFY(bare.selectDevice(1000));
+    const std::unique_ptr<QMenu> menu = bare.createContextMenu();
+    QCOMPARE(entries(*menu), (QStringList{"(&Open this camera)", "(Open &all available cameras)",
+                                          "&Identify this camera", "(&Camera information)", "&Refresh list",
+                                          "(Manual ETH configuration)", "(&Add Readonly Device)"}));
 }
 
 void TestCameraList::menuEntriesCarryTheSelectedCamera()
