@@ -5,7 +5,6 @@
 // ratio. Without DISPLAY the children use the offscreen platform.
 
 #include "app/apiversioncheck.h"
-#include "app/identity.h"
 #include "app/qcirrocameramanager.h"
 #include "app/startup.h"
 
@@ -57,9 +56,7 @@ int runApplication(int argc, char** argv)
 {
     Startup::prepareProcess();
     QApplication app(argc, argv);
-    Identity::applyTo(app);
-    Camera::registerMetaTypes();
-    CoreStates::registerMetaType();
+    Startup::prepareApplication();
     if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
         return 1;
     QCirroCameramanager window;

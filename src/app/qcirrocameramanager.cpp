@@ -29,6 +29,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 using Command = ControlStates::Command;
@@ -45,6 +47,19 @@ QPushButton* button(const char* objectName, QWidget* parent)
     auto* b = new QPushButton(parent);
     b->setObjectName(QLatin1String(objectName));
     return b;
+}
+
+// A text's width in average Latin characters; East Asian characters take two.
+int textColumns(const QString& text)
+{
+    int columns = 0;
+    for (const QChar c : text) {
+        const QChar::Script script = c.script();
+        const bool wide = script == QChar::Script_Han || script == QChar::Script_Hiragana
+                          || script == QChar::Script_Katakana || script == QChar::Script_Hangul;
+        columns += wide ? 2 : 1;
+    }
+    return columns;
 }
 
 QString fontColoured(const QString& colour, const QString& text)
@@ -121,6 +136,9 @@ void QCirroCameramanager::createWidgets()
     m_addCameraInfo->hide();
     m_languageSelector = new QComboBox(m_bottomGroup);
     m_languageSelector->setObjectName(QStringLiteral("languageSelector"));
+    // Sized from the label lengths rather than by measuring every entry:
+    // measuring would load a font for each script, which only the open list needs.
+    m_languageSelector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_bottomLeftLabel = new QLabel(m_bottomGroup);
     m_bottomLeftLabel->setAlignment(m_logo->alignment());
     m_busyIndicator = new QLabel(m_statusGroup);
@@ -257,8 +275,12 @@ void QCirroCameramanager::makeConnections()
 void QCirroCameramanager::fillLanguageSelector(const QString& directory)
 {
     QSignalBlocker blocker(m_languageSelector);
-    for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(directory))
+    int widestLabel = 0;
+    for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(directory)) {
         m_languageSelector->addItem(QIcon(entry.iconPath), entry.label, entry.locale);
+        widestLabel = std::max(widestLabel, textColumns(entry.label));
+    }
+    m_languageSelector->setMinimumContentsLength(widestLabel);
     m_languageSelector->model()->sort(0, Qt::AscendingOrder);
     // The current item moved with the sort; show the first entry.
     m_languageSelector->setCurrentIndex(m_languageSelector->count() > 0 ? 0 : -1);

@@ -9,6 +9,10 @@ namespace Startup {
 // Process-wide preparation that must precede the application object.
 void prepareProcess();
 
+// Application-wide settings that need the application object: identity,
+// meta-types and the interface font.
+void prepareApplication();
+
 int run(const QStringList& arguments);
 
 } // namespace Startup

@@ -63,7 +63,7 @@ QVariant CameraListModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return displayText(camera, index.column());
     case Qt::DecorationRole:
-        return index.column() == Free ? QVariant(QIcon(iconName(camera))) : QVariant();
+        return index.column() == Free ? QVariant(icon(iconName(camera))) : QVariant();
     case cameraRole:
         return QVariant::fromValue(camera);
     default:
@@ -83,6 +83,14 @@ QVariant CameraListModel::displayText(const Camera& camera, int column) const
     case SerialNumber: return camera.serialNumber();
     default: return QVariant();
     }
+}
+
+QIcon CameraListModel::icon(const QString& name) const
+{
+    auto cached = icons.find(name);
+    if (cached == icons.end())
+        cached = icons.insert(name, QIcon(name));
+    return *cached;
 }
 
 void CameraListModel::retranslate()

@@ -4,6 +4,8 @@
 #include "camera/camera.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
+#include <QIcon>
 #include <QList>
 #include <QStringList>
 
@@ -53,9 +55,12 @@ public slots:
 private:
     void fetchCameraList();
     QVariant displayText(const Camera& camera, int column) const;
+    QIcon icon(const QString& name) const;
 
     // Destroyed in reverse: the dispatcher stops first, the texts go last.
     QStringList headers;
+    // Decoded once: the view asks for every visible row on each paint and size hint.
+    mutable QHash<QString, QIcon> icons;
     QList<std::shared_ptr<Camera>> cameras;
     std::mutex listMutex;
     AsyncEvent events{stopEventNumber};

@@ -4,6 +4,7 @@
 // kept out of the way in a temporary directory.
 
 #include "app/identity.h"
+#include "app/startup.h"
 #include "app/qcirrocameramanager.h"
 #include "camera/cameralist.h"
 
@@ -41,11 +42,9 @@ bool setLanguage(QCirroCameramanager& window, const QString& locale)
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Startup::prepareProcess();
     QApplication app(argc, argv);
-    Identity::applyTo(app);
-    Camera::registerMetaTypes();
-    CoreStates::registerMetaType();
+    Startup::prepareApplication();
     if (argc < 2) {
         std::fprintf(stderr, "usage: %s <output directory>\n", argv[0]);
         return 2;
