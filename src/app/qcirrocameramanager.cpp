@@ -3,6 +3,7 @@
 #include "app/elevation.h"
 #include "app/identity.h"
 #include "app/languagecatalog.h"
+#include "app/startupimages.h"
 #include "app/unsupportedmodels.h"
 #include "app/viewerlauncher.h"
 #include "camera/cameraactions.h"
@@ -82,7 +83,7 @@ QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* paren
 {
     setObjectName(QStringLiteral("mainWindow"));
     createWidgets();
-    setWindowIcon(QIcon(QStringLiteral(":/images/Cirro Manager.ico")));
+    setWindowIcon(StartupImages::icon(QStringLiteral(":/images/Cirro Manager.ico")));
     buildLayout();
     makeConnections();
     fillLanguageSelector(m_languages.directory());
@@ -109,7 +110,7 @@ void QCirroCameramanager::createWidgets()
     m_serviceTimer = new QTimer(this);
     m_logo = new QLabel(central);
     m_logo->setObjectName(QStringLiteral("logo"));
-    m_logo->setPixmap(QIcon(QStringLiteral(":/images/logo_parvel.png")).pixmap(QSize(160, 48)));
+    m_logo->setPixmap(StartupImages::icon(QStringLiteral(":/images/logo_parvel.png")).pixmap(QSize(160, 48)));
     m_logo->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     m_cameraListGroup = new QGroupBox(central);
     m_controlGroup = new QGroupBox(central);
@@ -277,7 +278,7 @@ void QCirroCameramanager::fillLanguageSelector(const QString& directory)
     QSignalBlocker blocker(m_languageSelector);
     int widestLabel = 0;
     for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(directory)) {
-        m_languageSelector->addItem(QIcon(entry.iconPath), entry.label, entry.locale);
+        m_languageSelector->addItem(StartupImages::icon(entry.iconPath), entry.label, entry.locale);
         widestLabel = std::max(widestLabel, textColumns(entry.label));
     }
     m_languageSelector->setMinimumContentsLength(widestLabel);

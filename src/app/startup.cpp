@@ -4,6 +4,7 @@
 #include "app/commandline.h"
 #include "app/identity.h"
 #include "app/qcirrocameramanager.h"
+#include "app/startupimages.h"
 #include "camera/cirroexception.h"
 #include "common/corestates.h"
 
@@ -55,6 +56,7 @@ void prepareProcess()
 
 void prepareApplication()
 {
+    StartupImages::preload();
     Identity::applyTo(*QCoreApplication::instance());
     Camera::registerMetaTypes();
     CoreStates::registerMetaType();
