@@ -13,6 +13,7 @@
 #include "app/apiversioncheck.h"
 #include "app/qcirrocameramanager.h"
 #include "app/startup.h"
+#include "app/startupimages.h"
 
 #include "benchmarkfleet.h"
 #include "samplestatistics.h"
@@ -63,6 +64,8 @@ int runApplication(int argc, char** argv)
     Startup::prepareProcess();
     QApplication app(argc, argv);
     Startup::prepareApplication();
+    const StartupImages images;
+    Startup::setInterfaceFont();
     if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
         return 1;
     QCirroCameramanager window;

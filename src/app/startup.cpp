@@ -56,10 +56,13 @@ void prepareProcess()
 
 void prepareApplication()
 {
-    StartupImages::preload();
     Identity::applyTo(*QCoreApplication::instance());
     Camera::registerMetaTypes();
     CoreStates::registerMetaType();
+}
+
+void setInterfaceFont()
+{
     // Interface texts in Latin and Han script read the same without OpenType
     // shaping (only kerning and ligatures are lost), and skipping it roughly
     // halves the cost of laying out and painting the window. Scripts that need
@@ -76,6 +79,9 @@ int run(const QStringList& arguments)
     CommandLine commandLine;
     commandLine.process(arguments);
 
+    // Started after the command line, which may end the process.
+    const StartupImages images;
+    setInterfaceFont();
     if (!ApiVersionCheck::isSupported(pv_QueryApiVersion())) {
         ApiVersionCheck::showRefusal();
         return 0;

@@ -3,32 +3,12 @@
 #include "app/languagecatalog.h"
 
 #include <QGuiApplication>
-#include <QHash>
-#include <QImage>
 #include <QImageReader>
-#include <QList>
 #include <QPixmap>
 
-#include <future>
-#include <optional>
-
-namespace StartupImages {
+StartupImages* StartupImages::s_instance = nullptr;
 
 namespace {
-
-using DecodedImages = QHash<QString, QList<QImage>>;
-
-struct Preload
-{
-    std::future<DecodedImages> pending;
-    std::optional<DecodedImages> images;
-};
-
-Preload& state()
-{
-    static Preload preload;
-    return preload;
-}
 
 // Every image of a file: an .ico holds several sizes.
 QList<QImage> readAll(const QString& path)
@@ -55,25 +35,29 @@ QList<QImage> readWithHighDpiSibling(const QString& path, bool highDpi)
     return images;
 }
 
-DecodedImages decode(const QStringList& paths, bool highDpi)
-{
-    DecodedImages decoded;
-    for (const QString& path : paths)
-        decoded.insert(path, readWithHighDpiSibling(path, highDpi));
-    return decoded;
-}
-
-const DecodedImages& decodedImages()
-{
-    Preload& preload = state();
-    if (!preload.images)
-        preload.images = preload.pending.valid() ? preload.pending.get() : DecodedImages();
-    return *preload.images;
-}
-
 } // namespace
 
-QStringList preloadedPaths()
+StartupImages::StartupImages()
+{
+    Q_ASSERT(!s_instance);
+    s_instance = this;
+    const bool highDpi = qGuiApp && qGuiApp->devicePixelRatio() > 1.0;
+    m_pending = std::async(std::launch::async, [paths = preloadedPaths(), highDpi] {
+        DecodedImages decoded;
+        for (const QString& path : paths)
+            decoded.insert(path, readWithHighDpiSibling(path, highDpi));
+        return decoded;
+    });
+}
+
+StartupImages::~StartupImages()
+{
+    if (m_pending.valid())
+        m_pending.wait();
+    s_instance = nullptr;
+}
+
+QStringList StartupImages::preloadedPaths()
 {
     QStringList paths{QStringLiteral(":/images/Cirro Manager.ico"), QStringLiteral(":/images/logo_parvel.png")};
     for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(LanguageCatalog::translationDirectory()))
@@ -81,25 +65,23 @@ QStringList preloadedPaths()
     return paths;
 }
 
-void preload()
+const StartupImages::DecodedImages& StartupImages::images()
 {
-    Preload& preload = state();
-    if (preload.pending.valid() || preload.images)
-        return;
-    const bool highDpi = qGuiApp && qGuiApp->devicePixelRatio() > 1.0;
-    preload.pending = std::async(std::launch::async, decode, preloadedPaths(), highDpi);
+    if (!m_images)
+        m_images = m_pending.get();
+    return *m_images;
 }
 
-QIcon icon(const QString& path)
+QIcon StartupImages::icon(const QString& path)
 {
-    const DecodedImages& images = decodedImages();
-    const auto found = images.constFind(path);
-    if (found == images.cend())
+    if (!s_instance)
+        return QIcon(path);
+    const DecodedImages& decoded = s_instance->images();
+    const auto found = decoded.constFind(path);
+    if (found == decoded.cend())
         return QIcon(path);
     QIcon icon;
     for (const QImage& image : *found)
         icon.addPixmap(QPixmap::fromImage(image));
     return icon;
 }
-
-} // namespace StartupImages

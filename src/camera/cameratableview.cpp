@@ -54,8 +54,23 @@ void CameraTableView::currentChanged(const QModelIndex& current, const QModelInd
     fitColumns();
 }
 
+void CameraTableView::showEvent(QShowEvent* event)
+{
+    QTableView::showEvent(event);
+    if (m_fitPending)
+        fitColumns();
+}
+
 void CameraTableView::fitColumns()
 {
+    // Fitting measures the text of every row. A hidden view fits once when it
+    // is shown instead of at each model, selection and language change of the
+    // start-up.
+    if (!isVisible()) {
+        m_fitPending = true;
+        return;
+    }
+    m_fitPending = false;
     resizeColumnsToContents();
     // Resizing the last section by hand ends its stretch; start it again.
     horizontalHeader()->setStretchLastSection(false);

@@ -18,7 +18,7 @@ public:
     // A reset forgets the current row; the owner makes a row current again.
     void reset() override;
     // Every column as wide as its contents and header need, the last one
-    // stretched to the view's edge.
+    // stretched to the view's edge. A hidden view does it when it is shown.
     void fitColumns();
 
 signals:
@@ -30,7 +30,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     camera::optional<Camera> m_selection;
+    bool m_fitPending = false;
 };

@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QtTest>
 
+#include <optional>
+
 // Runs at a device pixel ratio of 2, so that the "@2x" siblings are part of
 // every icon, as on a high-DPI screen.
 class TestStartupImages : public QObject
@@ -13,9 +15,13 @@ class TestStartupImages : public QObject
 
 private slots:
     void initTestCase();
+    void cleanupTestCase();
     void preloadedIconsMatchThoseReadDirectly();
     void otherPathsAreReadOnDemand_data();
     void otherPathsAreReadOnDemand();
+
+private:
+    std::optional<StartupImages> m_images;
 };
 
 namespace {
@@ -46,8 +52,15 @@ void compareIcons(const QIcon& actual, const QIcon& expected)
 void TestStartupImages::initTestCase()
 {
     QCOMPARE(qApp->devicePixelRatio(), 2.0);
-    StartupImages::preload();
-    StartupImages::preload(); // a second call starts nothing new
+    m_images.emplace();
+}
+
+void TestStartupImages::cleanupTestCase()
+{
+    m_images.reset();
+    // Without an instance every path is read on demand.
+    const QString logo = QStringLiteral(":/images/logo_parvel.png");
+    compareIcons(StartupImages::icon(logo), QIcon(logo));
 }
 
 void TestStartupImages::preloadedIconsMatchThoseReadDirectly()

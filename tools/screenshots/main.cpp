@@ -45,6 +45,7 @@ int main(int argc, char* argv[])
     Startup::prepareProcess();
     QApplication app(argc, argv);
     Startup::prepareApplication();
+    Startup::setInterfaceFont();
     if (argc < 2) {
         std::fprintf(stderr, "usage: %s <output directory>\n", argv[0]);
         return 2;
