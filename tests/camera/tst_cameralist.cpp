@@ -5,6 +5,7 @@
 #include "simdriverfixture.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
@@ -57,6 +58,7 @@ private slots:
     void timerRefreshesTheSelectedCamera();
     void rebootNeedsExactlyCtrlAlt();
     void languageChangeRebuildsTheHeaders();
+    void columnsFitTheirContentsOnceShown();
 
 private:
     void select(quint32 deviceId);
@@ -291,6 +293,26 @@ void TestCameraList::languageChangeRebuildsTheHeaders()
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(list->view(), &change);
     QCOMPARE(headers.count(), 1);
+}
+
+
+void TestCameraList::columnsFitTheirContentsOnceShown()
+{
+    CameraTableView* view = list->view();
+    view->setGeometry(0, 0, 900, 400);
+    window->resize(900, 400);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    // The last column reaches the view's edge.
+    QCOMPARE(view->horizontalHeader()->length(), view->viewport()->width());
+    const int last = view->model()->columnCount() - 1;
+    QList<int> shown;
+    for (int column = 0; column < last; ++column)
+        shown.append(view->columnWidth(column));
+    // Qt's own fit: each column as wide as the larger of contents and header.
+    view->resizeColumnsToContents();
+    for (int column = 0; column < last; ++column)
+        QCOMPARE(shown.at(column), view->columnWidth(column));
 }
 
 QTEST_MAIN(TestCameraList)
