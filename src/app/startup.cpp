@@ -64,9 +64,9 @@ void prepareApplication()
 void setInterfaceFont()
 {
     // Interface texts in Latin and Han script read the same without OpenType
-    // shaping (only kerning and ligatures are lost), and skipping it roughly
-    // halves the cost of laying out and painting the window. Scripts that need
-    // shaping keep it.
+    // shaping (only kerning and ligatures are lost), and shaping was the
+    // costliest part of laying out and painting the main window. Scripts that
+    // need shaping keep it.
     QFont font = QApplication::font();
     font.setStyleStrategy(QFont::PreferNoShaping);
     QApplication::setFont(font);
