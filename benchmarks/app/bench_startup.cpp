@@ -10,15 +10,11 @@
 // memory and has no display server at all; there the fixed cost of a process
 // is smallest, so the ratio is at its strictest.
 
-#include "app/apiversioncheck.h"
 #include "app/qcirrocameramanager.h"
 #include "app/startup.h"
-#include "app/startupimages.h"
 
 #include "benchmarkfleet.h"
 #include "samplestatistics.h"
-
-#include <cirro_api.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -63,14 +59,9 @@ int runApplication(int argc, char** argv)
 {
     Startup::prepareProcess();
     QApplication app(argc, argv);
-    Startup::prepareApplication();
-    const StartupImages images;
-    Startup::setInterfaceFont();
-    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion()))
-        return 1;
-    QCirroCameramanager window;
-    window.show();
-    return reportShown(window);
+    // The program's own start-up, without the child role options.
+    return Startup::run({app.arguments().constFirst()},
+                        [](QCirroCameramanager& window) { return reportShown(window); });
 }
 
 int runBareWindow(int argc, char** argv)

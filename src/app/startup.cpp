@@ -29,11 +29,13 @@ void openRequestedDialog(CommandLine::Dialog dialog)
     std::fprintf(stderr, "The \"%s\" dialog is not available in this version.\n", name);
 }
 
-int runMainWindow(const CommandLine& commandLine)
+int runMainWindow(const CommandLine& commandLine, const AfterShow& afterShow)
 {
     try {
         QCirroCameramanager window;
         window.show();
+        if (afterShow)
+            return afterShow(window);
         openRequestedDialog(commandLine.dialogToOpen());
         return QApplication::exec();
     } catch (const CirroException& e) {
@@ -72,7 +74,7 @@ void setInterfaceFont()
     QApplication::setFont(font);
 }
 
-int run(const QStringList& arguments)
+int run(const QStringList& arguments, const AfterShow& afterShow)
 {
     prepareApplication();
 
@@ -86,7 +88,7 @@ int run(const QStringList& arguments)
         ApiVersionCheck::showRefusal();
         return 0;
     }
-    return runMainWindow(commandLine);
+    return runMainWindow(commandLine, afterShow);
 }
 
 } // namespace Startup

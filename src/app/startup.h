@@ -2,6 +2,10 @@
 
 #include <QStringList>
 
+#include <functional>
+
+class QCirroCameramanager;
+
 // The program's start-up after the application object exists: identity,
 // command line, camera API version check, main window and event loop.
 namespace Startup {
@@ -17,6 +21,10 @@ void prepareApplication();
 // the costliest step before the main window.
 void setInterfaceFont();
 
-int run(const QStringList& arguments);
+// What follows once the main window is shown; returns the exit code. Without
+// it the requested dialog opens and the event loop runs.
+using AfterShow = std::function<int(QCirroCameramanager& window)>;
+
+int run(const QStringList& arguments, const AfterShow& afterShow = AfterShow());
 
 } // namespace Startup
