@@ -1,4 +1,4 @@
-#include "app/startup.h"
+#include "app/widgets/startup.h"
 
 #include <QApplication>
 

@@ -10,8 +10,8 @@
 // memory and has no display server at all; there the fixed cost of a process
 // is smallest, so the ratio is at its strictest.
 
-#include "app/qcirrocameramanager.h"
-#include "app/startup.h"
+#include "app/widgets/qcirrocameramanager.h"
+#include "app/widgets/startup.h"
 
 #include "benchmarkfleet.h"
 #include "samplestatistics.h"

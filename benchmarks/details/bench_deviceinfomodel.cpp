@@ -5,7 +5,7 @@
 
 #include "camera/camera.h"
 #include "details/deviceinfomodel.h"
-#include "details/deviceinfoview.h"
+#include "details/widgets/deviceinfoview.h"
 
 #include <cirro_api.h>
 

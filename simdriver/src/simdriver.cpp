@@ -1,6 +1,6 @@
 #include "simdriver.h"
 
-#include "common/driverservicesettings.h"
+#include "driversettings/driverservicesettings.h"
 
 #include <QLoggingCategory>
 

@@ -3,7 +3,6 @@
 #include "app/identity.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 
 namespace ApiVersionCheck {
 
@@ -25,13 +24,6 @@ QString refusalText()
         .arg(minimumMinor)
         .arg(Identity::productLineName())
         .arg(Identity::makerShortName());
-}
-
-void showRefusal()
-{
-    QMessageBox box(QMessageBox::Critical, Identity::applicationName(), refusalText());
-    box.setObjectName(QStringLiteral("apiVersionRefusal"));
-    box.exec();
 }
 
 } // namespace ApiVersionCheck

@@ -13,7 +13,5 @@ constexpr int minimumMinor = 81;
 // version: top byte major, next byte minor.
 bool isSupported(std::uint32_t version);
 QString refusalText();
-// Shows the refusal as a modal critical message box without parent.
-void showRefusal();
 
 } // namespace ApiVersionCheck

@@ -15,7 +15,7 @@
 // The table of all cameras the driver reports. It fetches the list again on
 // every device-list event of the driver: the event thread only emits
 // listChanged(), which reaches the GUI thread as a queued call.
-class CameraListModel : public QAbstractTableModel
+class CameraListModel final : public QAbstractTableModel
 {
     Q_OBJECT
 
@@ -36,13 +36,6 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     const QList<std::shared_ptr<Camera>>& cameraList() const { return cameras; }
-
-    static QString typeText(const Camera& camera);
-    static QString modelText(const Camera& camera);
-    static QString freeText(const Camera& camera);
-    static QString availableText(const Camera& camera);
-    static bool isAvailable(const Camera& camera);
-    static QString iconName(const Camera& camera);
 
 signals:
     // Emitted from the event thread for every device-list event.

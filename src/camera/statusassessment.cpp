@@ -245,5 +245,10 @@ StatusAssessment StatusAssessment::of(const Camera* camera, const QStringList& u
 
 QString StatusAssessment::coloured() const
 {
-    return QStringLiteral("<font color='%1'>%2</font>").arg(colour.name(), message);
+    return fontColoured(colour.name(), message);
+}
+
+QString StatusAssessment::fontColoured(const QString& colourName, const QString& text)
+{
+    return QStringLiteral("<font color='%1'>%2</font>").arg(colourName, text);
 }

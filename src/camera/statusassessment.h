@@ -21,6 +21,7 @@ struct StatusAssessment
     static QString pictureOf(const Camera& camera);
     // "<font color='%1'>%2</font>" around the message.
     QString coloured() const;
+    static QString fontColoured(const QString& colourName, const QString& text);
 };
 
 class StatusTexts

@@ -1,6 +1,6 @@
 #include "network/ethservicebindings.h"
 
-#include "common/driverservicesettings.h"
+#include "driversettings/driverservicesettings.h"
 #include "network/networklogging.h"
 
 #include <QRegularExpression>

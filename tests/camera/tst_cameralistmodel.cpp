@@ -1,3 +1,4 @@
+#include "camera/cameracelltexts.h"
 #include "camera/cameralistmodel.h"
 #include "camera/cirroexception.h"
 
@@ -89,7 +90,7 @@ void TestCameraListModel::defaultFleetRows()
     const Camera camera = model.data(model.index(row, 4), CameraListModel::cameraRole).value<Camera>();
     QCOMPARE(camera.deviceId(), deviceId);
     QFETCH(QString, icon);
-    QCOMPARE(CameraListModel::iconName(camera), QStringLiteral(":/images/%1.png").arg(icon));
+    QCOMPARE(CameraCellTexts::iconName(camera), QStringLiteral(":/images/%1.png").arg(icon));
     QVERIFY(model.data(model.index(row, CameraListModel::Free), Qt::DecorationRole).isValid());
     QVERIFY(!model.data(model.index(row, CameraListModel::Type), Qt::DecorationRole).isValid());
 }
@@ -101,7 +102,7 @@ void TestCameraListModel::modelPrefixGetsItsHyphenEveryTime()
     CameraListModel model;
     for (const auto& camera : model.cameraList()) {
         if (camera->deviceId() == id)
-            QCOMPARE(CameraListModel::modelText(*camera), QStringLiteral("CR-U3-CR--Xcr"));
+            QCOMPARE(CameraCellTexts::modelText(*camera), QStringLiteral("CR-U3-CR--Xcr"));
     }
 }
 

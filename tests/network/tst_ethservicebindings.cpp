@@ -1,4 +1,4 @@
-#include "common/driverservicesettings.h"
+#include "driversettings/driverservicesettings.h"
 #include "network/ethservicebindings.h"
 
 #include <QTemporaryDir>

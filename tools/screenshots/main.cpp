@@ -4,9 +4,9 @@
 // kept out of the way in a temporary directory.
 
 #include "app/identity.h"
-#include "app/startup.h"
-#include "app/qcirrocameramanager.h"
-#include "camera/cameralist.h"
+#include "app/widgets/startup.h"
+#include "app/widgets/qcirrocameramanager.h"
+#include "camera/widgets/cameralist.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,0 +1,366 @@
+#include "app/widgets/qcirrocameramanager.h"
+
+#include "app/identity.h"
+#include "app/languagecatalog.h"
+#include "app/unsupportedmodels.h"
+#include "app/viewerlauncher.h"
+#include "app/widgets/commandregistry.h"
+#include "app/widgets/controlarea.h"
+#include "app/widgets/startupimages.h"
+#include "app/widgets/statuspanel.h"
+#include "camera/cameraactions.h"
+#include "camera/statusassessment.h"
+#include "camera/widgets/cameralist.h"
+#include "camera/widgets/cameratableview.h"
+#include "common/elevation.h"
+#include "details/widgets/deviceinfoview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+using Command = ControlStates::Command;
+
+const QString settingsGroup = QStringLiteral("mainWindow");
+// The first start's size; later starts restore the user's geometry.
+constexpr QSize defaultSize(960, 780);
+
+// A text's width in average Latin characters; East Asian characters take two.
+int textColumns(const QString& text)
+{
+    int columns = 0;
+    for (const QChar c : text) {
+        const QChar::Script script = c.script();
+        const bool wide = script == QChar::Script_Han || script == QChar::Script_Hiragana
+                          || script == QChar::Script_Katakana || script == QChar::Script_Hangul;
+        columns += wide ? 2 : 1;
+    }
+    return columns;
+}
+
+} // namespace
+
+QCirroCameramanager::QCirroCameramanager(QWidget* parent)
+    : QCirroCameramanager(Environment(), parent)
+{
+}
+
+QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* parent)
+    : QMainWindow(parent)
+    , m_languages(environment.translationDirectory.isEmpty() ? LanguageCatalog::translationDirectory()
+                                                             : environment.translationDirectory)
+    , m_services(environment.services ? std::move(environment.services) : ServiceManager::create())
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    createWidgets();
+    setWindowIcon(StartupImages::icon(QStringLiteral(":/images/Cirro Manager.ico")));
+    buildLayout();
+    makeConnections();
+    registerCommands();
+    fillLanguageSelector(m_languages.directory());
+    retranslate();
+    setMinimumSize(800, 600);
+    resize(defaultSize);
+    CameraActions::connectEthService();
+    UpdateControls();
+    onServiceTimer();
+    m_serviceTimer->start(servicePollIntervalMs);
+    restoreSettings();
+    updateDetails(false);
+}
+
+QCirroCameramanager::~QCirroCameramanager()
+{
+    saveSettings();
+}
+
+void QCirroCameramanager::createWidgets()
+{
+    auto* central = new QWidget(this);
+    setCentralWidget(central);
+    m_serviceTimer = new QTimer(this);
+    m_commands = new CommandRegistry(this);
+    m_logo = new QLabel(central);
+    m_logo->setObjectName(QStringLiteral("logo"));
+    m_logo->setPixmap(StartupImages::icon(QStringLiteral(":/images/logo_parvel.png")).pixmap(QSize(160, 48)));
+    m_logo->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    m_cameraListGroup = new QGroupBox(central);
+    m_controlArea = new ControlArea(*m_commands, central);
+    m_bottomGroup = new QGroupBox(central);
+    m_statusPanel = new StatusPanel(Elevation::isElevated(), central);
+    m_close = new QPushButton(m_bottomGroup);
+    m_close->setObjectName(QStringLiteral("close"));
+    m_languageSelector = new QComboBox(m_bottomGroup);
+    m_languageSelector->setObjectName(QStringLiteral("languageSelector"));
+    // Sized from the label lengths rather than by measuring every entry:
+    // measuring would load a font for each script, which only the open list needs.
+    m_languageSelector->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_bottomLeftLabel = new QLabel(m_bottomGroup);
+    m_bottomLeftLabel->setAlignment(m_logo->alignment());
+    m_detailsGroup = new QGroupBox(central);
+    m_detailsGroup->setObjectName(QStringLiteral("deviceDetails"));
+    m_detailsGroup->hide();
+    m_deviceDetails = new DeviceInfoView(m_detailsGroup);
+    m_deviceDetails->setObjectName(QStringLiteral("deviceDetailsView"));
+    (new QVBoxLayout(m_detailsGroup))->addWidget(m_deviceDetails);
+}
+
+void QCirroCameramanager::buildLayout()
+{
+    auto* listLayout = new QVBoxLayout(m_cameraListGroup);
+    m_cameraList = new CameraList(m_cameraListGroup, this);
+    CameraList::HostAbilities abilities;
+    abilities.elevated = Elevation::isElevated();
+    m_cameraList->setHostAbilities(abilities);
+    m_cameraList->setCommandHandlers(m_commands);
+    listLayout->addWidget(m_cameraList->view());
+
+    auto* leftColumn = new QVBoxLayout;
+    leftColumn->addWidget(m_cameraListGroup, 1);
+    leftColumn->addWidget(m_controlArea);
+    leftColumn->addWidget(buildBottomGroup());
+    leftColumn->addWidget(m_statusPanel);
+
+    auto* central = new QHBoxLayout(centralWidget());
+    central->addLayout(leftColumn, 1);
+    central->addWidget(m_detailsGroup, 1);
+}
+
+QWidget* QCirroCameramanager::buildBottomGroup()
+{
+    auto* left = new QVBoxLayout;
+    left->addWidget(m_bottomLeftLabel);
+    left->addWidget(m_languageSelector);
+    auto* right = new QVBoxLayout;
+    right->addWidget(m_logo);
+    right->addWidget(m_close);
+    auto* columns = new QHBoxLayout(m_bottomGroup);
+    columns->addLayout(left);
+    columns->addLayout(right);
+    return m_bottomGroup;
+}
+
+void QCirroCameramanager::makeConnections()
+{
+    connect(m_serviceTimer, &QTimer::timeout, this, &QCirroCameramanager::onServiceTimer);
+    connect(m_controlArea->expertMode(), &QCheckBox::stateChanged, this,
+            [this](int state) { enableExpertView(state != 0); });
+    connect(m_controlArea->autoRefresh(), &QCheckBox::clicked, m_cameraList, &CameraList::setAutoRefresh);
+    connect(m_close, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_languageSelector, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &QCirroCameramanager::slotLanguageChanged);
+    // Choosing the entry that is shown but was never loaded changes no index.
+    connect(m_languageSelector, qOverload<int>(&QComboBox::activated), this,
+            &QCirroCameramanager::slotLanguageChanged);
+
+    connect(m_cameraList, &CameraList::cameraChanged, this,
+            [this](const camera::optional<Camera>& camera) { onCurrentCameraChanged(camera); });
+    connect(m_cameraList, &CameraList::cameraListChanged, this, &QCirroCameramanager::onCameraListChanged);
+    connect(m_deviceDetails, &DeviceInfoView::updateNeeded, this, &QCirroCameramanager::onDeviceInfoUpdateNeeded);
+}
+
+// One line per command that this build handles; the others keep their buttons
+// and menu entries disabled.
+void QCirroCameramanager::registerCommands()
+{
+    m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
+                              &QCirroCameramanager::onOpenCamera);
+    m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
+                              &QCirroCameramanager::onIdentifyCamera);
+    m_commands->handleRequest(
+        Command::DeleteReadOnlyDevice, m_cameraList, &CameraList::deletePMC, m_cameraList,
+        [this](const Camera& camera) { deleteReadOnlyDevice(camera); }, Qt::DirectConnection);
+}
+
+void QCirroCameramanager::fillLanguageSelector(const QString& directory)
+{
+    QSignalBlocker blocker(m_languageSelector);
+    int widestLabel = 0;
+    for (const LanguageCatalog::Entry& entry : LanguageCatalog::scan(directory)) {
+        m_languageSelector->addItem(StartupImages::icon(entry.iconPath), entry.label, entry.locale);
+        widestLabel = std::max(widestLabel, textColumns(entry.label));
+    }
+    m_languageSelector->setMinimumContentsLength(widestLabel);
+    m_languageSelector->model()->sort(0, Qt::AscendingOrder);
+    // The current item moved with the sort; show the first entry.
+    m_languageSelector->setCurrentIndex(m_languageSelector->count() > 0 ? 0 : -1);
+    const QString stored = QSettings(Identity::settingsOrganisation(), Identity::settingsApplication())
+                               .value(settingsGroup + QStringLiteral("/selectedLanguage"),
+                                      LanguageCatalog::defaultLanguage())
+                               .toString();
+    const int index = m_languageSelector->findData(stored, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0)
+        return; // the first entry stays shown, unloaded
+    // From no selection, so that choosing the entry always loads it.
+    m_languageSelector->setCurrentIndex(-1);
+    blocker.unblock();
+    m_languageSelector->setCurrentIndex(index);
+}
+
+void QCirroCameramanager::retranslate()
+{
+    m_cameraListGroup->setTitle(tr("Camera list"));
+    m_controlArea->retranslate();
+    m_close->setText(tr("Close"));
+    m_close->setToolTip(tr("Quits the application window"));
+    m_detailsGroup->setTitle(tr("Device details"));
+    setWindowTitle(tr("%1 Camera Manager").arg(Identity::makerShortName()));
+    m_statusPanel->retranslate();
+    updateDetails(false);
+}
+
+void QCirroCameramanager::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LocaleChange)
+        m_languages.load(LanguageCatalog::defaultLanguage());
+    else if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void QCirroCameramanager::slotLanguageChanged(int index)
+{
+    if (index < 0)
+        return;
+    m_languages.load(m_languageSelector->itemData(index).toString());
+}
+
+void QCirroCameramanager::onServiceTimer()
+{
+    const CoreStates states = m_services->coreStates();
+    if (states == m_serviceStates)
+        return;
+    m_serviceStates = states;
+    UpdateControls();
+    emit CirrodStatusChanged(m_serviceStates);
+}
+
+void QCirroCameramanager::enableExpertView(bool enable)
+{
+    m_detailsGroup->setVisible(enable);
+    QCheckBox* autoRefresh = m_controlArea->autoRefresh();
+    autoRefresh->setEnabled(enable);
+    if (!enable) {
+        m_cameraList->setAutoRefresh(false);
+        return;
+    }
+    m_cameraList->refreshSelectedCamera();
+    updateDetails(true);
+    m_cameraList->setAutoRefresh(autoRefresh->isChecked());
+}
+
+void QCirroCameramanager::onCurrentCameraChanged(const camera::optional<Camera>& camera, bool force)
+{
+    UpdateDeviceInfo(camera ? &*camera : nullptr, force);
+}
+
+void QCirroCameramanager::onCameraListChanged()
+{
+    if (!m_controlArea->expertMode()->isChecked())
+        return;
+    updateDetails(false);
+    const Camera* camera = currentCamera();
+    if (camera && camera->kind() == Camera::Kind::Usb)
+        m_deviceDetails->UpdateUsbTopology();
+}
+
+void QCirroCameramanager::onDeviceInfoUpdateNeeded(bool force)
+{
+    updateDetails(force);
+}
+
+void QCirroCameramanager::OnCameraListRefresh()
+{
+    updateDetails(false);
+}
+
+void QCirroCameramanager::UpdateDeviceInfo(const Camera* camera, bool force_reset)
+{
+    m_deviceDetails->Update(camera, force_reset);
+    UpdateControls();
+}
+
+void QCirroCameramanager::updateDetails(bool force)
+{
+    UpdateDeviceInfo(currentCamera(), force);
+}
+
+const Camera* QCirroCameramanager::currentCamera() const
+{
+    const camera::optional<Camera>& selected = m_cameraList->selectedCamera();
+    return selected ? &*selected : nullptr;
+}
+
+void QCirroCameramanager::UpdateControls()
+{
+    const Camera* camera = currentCamera();
+    const StatusAssessment status = StatusAssessment::of(camera, UnsupportedModels::list());
+    Printer(status.message, status.colour, false);
+    m_statusPanel->showDetails(status, camera != nullptr);
+    m_commands->setUsable(ControlStates::usable(camera, m_serviceStates.eth != CoreStates::NotInstalled));
+}
+
+void QCirroCameramanager::Printer(const QString& text, const QColor& textcolour, bool bShowProgress)
+{
+    if (m_messagesEnabled)
+        m_statusPanel->print(text, textcolour, bShowProgress);
+}
+
+void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
+{
+    for (const Camera& camera : cameras) {
+        if (!camera.inUse())
+            ViewerLauncher::open(camera);
+    }
+}
+
+void QCirroCameramanager::onIdentifyCamera(const Camera& camera)
+{
+    CameraActions::identify(camera);
+}
+
+void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)
+{
+    const std::int32_t result = CameraActions::removeReadOnlyDevice(camera);
+    if (result != PV_OK) {
+        QMessageBox::critical(this, tr("Delete read-only device"),
+                              tr("The read-only device could not be removed.\nReturn code: %1").arg(result));
+    }
+}
+
+void QCirroCameramanager::restoreSettings()
+{
+    QSettings settings(Identity::settingsOrganisation(), Identity::settingsApplication());
+    settings.beginGroup(settingsGroup);
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    QCheckBox* expertMode = m_controlArea->expertMode();
+    QCheckBox* autoRefresh = m_controlArea->autoRefresh();
+    expertMode->setChecked(settings.value(QStringLiteral("checkExpert"), false).toBool());
+    autoRefresh->setEnabled(expertMode->isChecked());
+    autoRefresh->setChecked(settings.value(QStringLiteral("checkRefresh"), false).toBool());
+    if (expertMode->isChecked() && autoRefresh->isChecked())
+        m_cameraList->setAutoRefresh(true);
+}
+
+void QCirroCameramanager::saveSettings() const
+{
+    QSettings settings(Identity::settingsOrganisation(), Identity::settingsApplication());
+    settings.beginGroup(settingsGroup);
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("checkExpert"), m_controlArea->expertMode()->isChecked());
+    settings.setValue(QStringLiteral("checkRefresh"), m_controlArea->autoRefresh()->isChecked());
+    settings.setValue(QStringLiteral("selectedLanguage"), m_languageSelector->currentData());
+}

@@ -1,0 +1,102 @@
+#include "app/widgets/startup.h"
+
+#include "app/apiversioncheck.h"
+#include "app/commandline.h"
+#include "app/identity.h"
+#include "app/widgets/qcirrocameramanager.h"
+#include "app/widgets/startupimages.h"
+#include "camera/cirroexception.h"
+#include "services/corestates.h"
+
+#include <cirro_api.h>
+
+#include <QApplication>
+#include <QFont>
+#include <QMessageBox>
+
+#include <cstdio>
+
+namespace Startup {
+
+namespace {
+
+// The driver dialogs of the two options are not part of this build yet.
+void openRequestedDialog(CommandLine::Dialog dialog)
+{
+    if (dialog == CommandLine::Dialog::None)
+        return;
+    const char* name = dialog == CommandLine::Dialog::AdditionalFunctions ? "Additional functions" : "Daemon control";
+    std::fprintf(stderr, "The \"%s\" dialog is not available in this version.\n", name);
+}
+
+// Modal, without parent: the main window does not exist yet.
+void showApiVersionRefusal()
+{
+    QMessageBox box(QMessageBox::Critical, Identity::applicationName(), ApiVersionCheck::refusalText());
+    box.setObjectName(QStringLiteral("apiVersionRefusal"));
+    box.exec();
+}
+
+int runMainWindow(const CommandLine& commandLine, const AfterShow& afterShow)
+{
+    try {
+        QCirroCameramanager window;
+        window.show();
+        if (afterShow)
+            return afterShow(window);
+        openRequestedDialog(commandLine.dialogToOpen());
+        return QApplication::exec();
+    } catch (const CirroException& e) {
+        QMessageBox::critical(nullptr, Identity::applicationName(),
+                              QCoreApplication::translate("main",
+                                                          "The camera driver refused the camera list's device "
+                                                          "events.\nReturn code: %1")
+                                  .arg(e.code()));
+        return 1;
+    }
+}
+
+} // namespace
+
+void prepareProcess()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+void prepareApplication()
+{
+    Identity::applyTo(*QCoreApplication::instance());
+    Camera::registerMetaTypes();
+    CoreStates::registerMetaType();
+}
+
+void setInterfaceFont()
+{
+    // Interface texts in Latin and Han script read the same without OpenType
+    // shaping (only kerning and ligatures are lost), and shaping was the
+    // costliest part of laying out and painting the main window. Scripts that
+    // need shaping keep it.
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QApplication::setFont(font);
+}
+
+int run(const QStringList& arguments, const AfterShow& afterShow)
+{
+    prepareApplication();
+
+    CommandLine commandLine;
+    commandLine.process(arguments);
+
+    // Started after the command line, which may end the process.
+    const StartupImages images;
+    setInterfaceFont();
+    if (!ApiVersionCheck::isSupported(pv_QueryApiVersion())) {
+        showApiVersionRefusal();
+        return 0;
+    }
+    return runMainWindow(commandLine, afterShow);
+}
+
+} // namespace Startup

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QGroupBox>
+
+class QLabel;
+class QMovie;
+struct StatusAssessment;
+
+// The main window's status group: a coloured status text with a busy
+// indicator, a second line for warnings, the picture of the selected camera's
+// family and, when the program runs as root, a warning about that.
+class StatusPanel final : public QGroupBox
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StatusPanel)
+
+public:
+    StatusPanel(bool elevated, QWidget* parent = nullptr);
+
+    // The text in the colour; the busy indicator runs while showProgress.
+    void print(const QString& text, const QColor& colour, bool showProgress);
+    // The second line and the picture of an assessment; no camera clears the picture.
+    void showDetails(const StatusAssessment& status, bool hasCamera);
+    void retranslate();
+
+private:
+    void showBusyIndicator(bool show);
+
+    QLabel* m_busyIndicator = nullptr;
+    QMovie* m_busyMovie = nullptr;
+    QLabel* m_statusText = nullptr;
+    QLabel* m_secondStatusLine = nullptr;
+    QLabel* m_cameraPicture = nullptr;
+    QLabel* m_privilegeWarning = nullptr;
+};

@@ -1,0 +1,321 @@
+#include "app/widgets/qcirrocameramanager.h"
+#include "camera/widgets/cameralist.h"
+#include "camera/widgets/cameratableview.h"
+
+#include "simdriverfixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace SimDriverFixture;
+
+namespace {
+
+// Driver services whose states a test sets.
+class FakeServices : public ServiceManager
+{
+public:
+    explicit FakeServices(CoreStates* states)
+        : m_states(states)
+    {
+    }
+
+    CoreStates::State state(const QString& service) const override
+    {
+        return service == QLatin1String("cirro_usb") ? m_states->usb : m_states->eth;
+    }
+
+protected:
+    Result change(const QString&, Change) override { return {}; }
+
+private:
+    CoreStates* m_states;
+};
+
+const QString shippedTranslations = QStringLiteral(CIRRO_TRANSLATION_DIR);
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void oneStatusSignalPerServiceChange();
+    void settingsRoundTrip();
+    void withoutTranslationFilesNothingIsLoaded();
+    void storedLanguageWithoutFileStaysUnloaded();
+    void languageSwitchRetranslatesTheWindow_data();
+    void languageSwitchRetranslatesTheWindow();
+    void expertModeWithoutCamera();
+    void printerHonoursTheMessagesFlag();
+    void selectionFillsTheStatusLines_data();
+    void selectionFillsTheStatusLines();
+    void commandsWithoutTheirFeatureStayDisabled();
+    void deletingAReadOnlyDeviceRemovesIt();
+
+private:
+    std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations);
+    void select(QCirroCameramanager& window, quint32 deviceId);
+    template <typename T>
+    static T* child(QCirroCameramanager& window, const char* name)
+    {
+        return window.findChild<T*>(QLatin1String(name));
+    }
+
+    QTemporaryDir settingsDir;
+    CoreStates services{CoreStates::Running, CoreStates::Running};
+};
+
+void TestMainWindow::initTestCase()
+{
+    Camera::registerMetaTypes();
+    CoreStates::registerMetaType();
+    QVERIFY(settingsDir.isValid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir.path());
+    QVERIFY2(QFile::exists(shippedTranslations + "/cameramanager_de.qm"), "translations are not built");
+}
+
+void TestMainWindow::init()
+{
+    QVERIFY(reset());
+    QSettings("Parvel", "CameraManager").clear();
+    services = {CoreStates::Running, CoreStates::Running};
+}
+
+void TestMainWindow::cleanup()
+{
+    QSettings("Parvel", "CameraManager").clear();
+}
+
+std::unique_ptr<QCirroCameramanager> TestMainWindow::makeWindow(const QString& translations)
+{
+    QCirroCameramanager::Environment environment;
+    environment.services = std::make_unique<FakeServices>(&services);
+    environment.translationDirectory = translations;
+    return std::make_unique<QCirroCameramanager>(std::move(environment));
+}
+
+void TestMainWindow::select(QCirroCameramanager& window, quint32 deviceId)
+{
+    QVERIFY2(window.cameraList()->selectDevice(deviceId), "camera not in the list");
+}
+
+void TestMainWindow::oneStatusSignalPerServiceChange()
+{
+    const auto window = makeWindow();
+    QCOMPARE(window->serviceStates(), services);
+    QSignalSpy changed(window.get(), &QCirroCameramanager::CirrodStatusChanged);
+    QVERIFY(changed.isValid());
+
+    window->onServiceTimer();
+    QCOMPARE(changed.count(), 0);
+
+    services.eth = CoreStates::NotInstalled;
+    window->onServiceTimer();
+    window->onServiceTimer();
+    QCOMPARE(changed.count(), 1);
+    const CoreStates reported = changed.at(0).at(0).value<CoreStates>();
+    QCOMPARE(reported.usb, CoreStates::Running);
+    QCOMPARE(reported.eth, CoreStates::NotInstalled);
+}
+
+void TestMainWindow::settingsRoundTrip()
+{
+    {
+        const auto window = makeWindow();
+        child<QCheckBox>(*window, "expertMode")->setChecked(true);
+        child<QCheckBox>(*window, "autoRefresh")->setChecked(true);
+        auto* languages = child<QComboBox>(*window, "languageSelector");
+        languages->setCurrentIndex(languages->findData("zh_CN"));
+        window->resize(1000, 820);
+    }
+    QSettings settings("Parvel", "CameraManager");
+    QCOMPARE(settings.value("mainWindow/checkExpert").toBool(), true);
+    QCOMPARE(settings.value("mainWindow/selectedLanguage").toString(), QStringLiteral("zh_CN"));
+
+    const auto window = makeWindow();
+    QVERIFY(child<QCheckBox>(*window, "expertMode")->isChecked());
+    QVERIFY(child<QCheckBox>(*window, "autoRefresh")->isChecked());
+    QVERIFY(child<QCheckBox>(*window, "autoRefresh")->isEnabled());
+    QVERIFY(window->cameraList()->isAutoRefreshOn());
+    QCOMPARE(window->currentLanguage(), QStringLiteral("zh_CN"));
+    QCOMPARE(window->size(), QSize(1000, 820));
+}
+
+void TestMainWindow::withoutTranslationFilesNothingIsLoaded()
+{
+    QTemporaryDir empty;
+    {
+        const auto window = makeWindow(empty.path());
+        QCOMPARE(child<QComboBox>(*window, "languageSelector")->count(), 0);
+        QVERIFY(window->currentLanguage().isEmpty());
+        QCOMPARE(child<QPushButton>(*window, "close")->text(), QStringLiteral("Close"));
+    }
+    QSettings settings("Parvel", "CameraManager");
+    QVERIFY(settings.contains("mainWindow/selectedLanguage"));
+    QVERIFY(!settings.value("mainWindow/selectedLanguage").isValid());
+}
+
+void TestMainWindow::storedLanguageWithoutFileStaysUnloaded()
+{
+    QSettings("Parvel", "CameraManager").setValue("mainWindow/selectedLanguage", "fr");
+    const auto window = makeWindow();
+    auto* languages = child<QComboBox>(*window, "languageSelector");
+    QCOMPARE(languages->count(), 3);
+    QCOMPARE(languages->currentIndex(), 0);
+    // Sorted by label: "American English", "Deutsch", Chinese.
+    QCOMPARE(languages->itemData(0).toString(), QStringLiteral("en"));
+    QVERIFY(window->currentLanguage().isEmpty());
+    QCOMPARE(child<QPushButton>(*window, "close")->text(), QStringLiteral("Close"));
+}
+
+void TestMainWindow::languageSwitchRetranslatesTheWindow_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("close");
+    QTest::addColumn<QString>("expert");
+    QTest::newRow("German") << "de" << QStringLiteral("Schließen") << QStringLiteral("Expertenmodus");
+    QTest::newRow("Chinese") << "zh_CN" << QStringLiteral("关闭") << QStringLiteral("专家模式");
+}
+
+void TestMainWindow::languageSwitchRetranslatesTheWindow()
+{
+    QFETCH(QString, locale);
+    const auto window = makeWindow();
+    auto* languages = child<QComboBox>(*window, "languageSelector");
+    const int index = languages->findData(locale);
+    languages->setCurrentIndex(index);
+    emit languages->activated(index);
+    QCOMPARE(window->currentLanguage(), locale);
+    // Installing a translator posts the language change to every window.
+    QFETCH(QString, close);
+    QTRY_COMPARE(child<QPushButton>(*window, "close")->text(), close);
+    QTEST(child<QCheckBox>(*window, "expertMode")->text(), "expert");
+    // The camera list's headers follow as well.
+    QVERIFY(window->cameraList()->view()->model()->headerData(0, Qt::Horizontal).toString() != "Free");
+
+    // English, whose texts are the sources, brings them back.
+    const int english = languages->findData("en");
+    languages->setCurrentIndex(english);
+    QTRY_COMPARE(child<QPushButton>(*window, "close")->text(), QStringLiteral("Close"));
+    QCOMPARE(window->cameraList()->view()->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Free"));
+}
+
+void TestMainWindow::expertModeWithoutCamera()
+{
+    const auto window = makeWindow();
+    window->show();
+    QVERIFY(!window->cameraList()->selectedCamera());
+    auto* expert = child<QCheckBox>(*window, "expertMode");
+    auto* refresh = child<QCheckBox>(*window, "autoRefresh");
+    auto* details = child<QGroupBox>(*window, "deviceDetails");
+    QVERIFY(!refresh->isEnabled());
+    QVERIFY(!details->isVisible());
+
+    refresh->setChecked(true);
+    expert->setChecked(true);
+    QVERIFY(details->isVisible());
+    QVERIFY(refresh->isEnabled());
+    QVERIFY(window->cameraList()->isAutoRefreshOn());
+
+    expert->setChecked(false);
+    QVERIFY(!details->isVisible());
+    QVERIFY(!refresh->isEnabled());
+    QVERIFY(!window->cameraList()->isAutoRefreshOn());
+}
+
+void TestMainWindow::printerHonoursTheMessagesFlag()
+{
+    const auto window = makeWindow();
+    window->show();
+    auto* status = child<QLabel>(*window, "statusText");
+    auto* busy = child<QLabel>(*window, "busyIndicator");
+
+    window->Printer("Working", Qt::black, true);
+    QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Working</font>"));
+    QVERIFY(busy->isVisible());
+
+    window->setMessagesEnabled(false);
+    window->Printer("Failed", Qt::red, false);
+    QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Working</font>"));
+    QVERIFY(busy->isVisible());
+
+    window->setMessagesEnabled(true);
+    window->Printer("Failed", Qt::red, false);
+    QCOMPARE(status->text(), QStringLiteral("<font color='#ff0000'>Failed</font>"));
+    QVERIFY(!busy->isVisible());
+}
+
+void TestMainWindow::selectionFillsTheStatusLines_data()
+{
+    QTest::addColumn<quint32>("deviceId");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<bool>("unsupported");
+    QTest::newRow("GigE ready") << 1000u
+                                << "<font color='#000000'>Status of device 1000: The camera is configured "
+                                   "correctly and can be opened.</font>"
+                                << false;
+    QTest::newRow("USB in use") << 3u << "<font color='#008000'>Status of device 3: You have opened the camera</font>"
+                                << false;
+    QTest::newRow("model no longer supported") << 4u << QString() << true;
+}
+
+void TestMainWindow::selectionFillsTheStatusLines()
+{
+    QFETCH(quint32, deviceId);
+    QFETCH(QString, status);
+    QFETCH(bool, unsupported);
+    const auto window = makeWindow();
+    window->show();
+    select(*window, deviceId);
+    if (!status.isEmpty())
+        QCOMPARE(child<QLabel>(*window, "statusText")->text(), status);
+    QVERIFY(!child<QLabel>(*window, "cameraPicture")->pixmap(Qt::ReturnByValue).isNull());
+    auto* second = child<QLabel>(*window, "secondStatusLine");
+    QCOMPARE(second->isVisible(), unsupported);
+    if (unsupported)
+        QVERIFY(second->text().contains("no longer supported"));
+}
+
+void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
+{
+    const auto window = makeWindow();
+    select(*window, 1000);
+    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile", "ethNetworkService",
+                             "additionalFunctions", "automaticEthConfiguration", "uploadStarterFirmware",
+                             "manualEthConfiguration"})
+        QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
+    QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
+}
+
+void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()
+{
+    const auto window = makeWindow();
+    select(*window, 1500);
+    const std::unique_ptr<QMenu> menu = window->cameraList()->createContextMenu();
+    QAction* remove = nullptr;
+    for (QAction* action : menu->actions())
+        remove = action->text() == "&Delete" ? action : remove;
+    QVERIFY(remove);
+    remove->trigger();
+    QVERIFY(cameraState(1500).isEmpty());
+    QTRY_VERIFY(!window->cameraList()->selectedCamera());
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_qcirrocameramanager.moc"
