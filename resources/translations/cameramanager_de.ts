@@ -50,7 +50,7 @@
 <context>
     <name>CameraList</name>
     <message>
-        <location filename="../../src/camera/cameralist.cpp" line="+119"/>
+        <location filename="../../src/camera/widgets/cameralist.cpp" line="+122"/>
         <source>&amp;Open this camera</source>
         <translation>Diese Kamera ö&amp;ffnen</translation>
     </message>
@@ -60,7 +60,7 @@
         <translation>&amp;Alle verfügbaren Kameras öffnen</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+6"/>
         <source>&amp;Refresh list</source>
         <translation>&amp;Liste aktualisieren</translation>
     </message>
@@ -70,7 +70,7 @@
         <translation>Diese Kamera &amp;identifizieren</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>&amp;Camera information</source>
         <translation>&amp;Kamerainformationen</translation>
     </message>
@@ -85,7 +85,7 @@
         <translation>Schreibgeschütztes Gerät &amp;hinzufügen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>&amp;Delete</source>
         <translation>Lö&amp;schen</translation>
     </message>
@@ -103,7 +103,7 @@
 <context>
     <name>CameraListModel</name>
     <message>
-        <location filename="../../src/camera/cameralistmodel.cpp" line="+97"/>
+        <location filename="../../src/camera/cameralistmodel.cpp" line="+81"/>
         <source>Free</source>
         <translation>Frei</translation>
     </message>
@@ -138,23 +138,135 @@
         <translation>Ser.-Nr.</translation>
     </message>
     <message>
-        <location line="+60"/>
-        <location line="+2"/>
-        <location line="+15"/>
+        <location filename="../../src/camera/cameracelltexts.cpp" line="+21"/>
         <source>No</source>
         <translation>Nein</translation>
     </message>
     <message>
-        <location line="-17"/>
-        <location line="+3"/>
-        <location line="+14"/>
+        <location line="-5"/>
         <source>Yes</source>
         <translation>Ja</translation>
     </message>
     <message>
-        <location line="-15"/>
+        <location line="+51"/>
         <source>Yes (BB)</source>
         <translation>Ja (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>ControlArea</name>
+    <message>
+        <location filename="../../src/app/widgets/controlarea.cpp" line="+84"/>
+        <source>Control area</source>
+        <translation>Steuerbereich</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Expert mode</source>
+        <translation>Expertenmodus</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show/hide detailed information view</source>
+        <translation>Detaillierte Informationsansicht ein-/ausblenden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic parameter refresh</source>
+        <translation>Automatische Parameteraktualisierung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enables/Disables the automatic refresh of the detailed information view</source>
+        <translation>Aktiviert/deaktiviert die automatische Aktualisierung der detaillierten Informationsansicht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Camera information</source>
+        <translation>Kamerainformationen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+11"/>
+        <source>Show additional camera information</source>
+        <translation>Zusätzliche Kamerainformationen anzeigen</translation>
+    </message>
+    <message>
+        <location line="-10"/>
+        <source>General information</source>
+        <translation>Allgemeine Informationen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show general information dialog</source>
+        <translation>Dialog „Allgemeine Informationen“ anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>Starter-Firmware hochladen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Upload a runtime firmware manually</source>
+        <translation>Runtime-Firmware manuell hochladen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create support file</source>
+        <translation>Supportdatei erstellen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create a support file with important system
+ and %1 information for sending to the %2 support</source>
+        <translation>Erstellt eine Supportdatei mit wichtigen Informationen zum System
+ und zu %1, die Sie an den Support von %2 senden können</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH network service</source>
+        <translation>ETH-Netzwerkdienst</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network configuration dialog</source>
+        <translation>Dialog für die Netzwerkkonfiguration anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional functions</source>
+        <translation>Zusatzfunktionen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manual ETH configuration</source>
+        <translation>Manuelle ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network device configuration dialog</source>
+        <translation>Dialog für die Konfiguration des Netzwerkgeräts anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic ETH configuration</source>
+        <translation>Automatische ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Automatic network configuration</source>
+        <translation>Automatische Netzwerkkonfiguration</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Read support file</source>
+        <translation>Supportdatei einlesen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional Camera Info</source>
+        <translation>Zusätzliche Kamerainfos</translation>
     </message>
 </context>
 <context>
@@ -741,7 +853,7 @@
 <context>
     <name>DeviceInfoView</name>
     <message>
-        <location filename="../../src/details/deviceinfoview.cpp" line="+82"/>
+        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
         <source>Copy item values</source>
         <translation>Werte der Einträge kopieren</translation>
     </message>
@@ -749,7 +861,7 @@
 <context>
     <name>ElevatedRestart</name>
     <message>
-        <location filename="../../src/app/elevatedrestart_linux.cpp" line="+68"/>
+        <location filename="../../src/common/elevatedrestart_linux.cpp" line="+68"/>
         <source>%1 could not be started.</source>
         <translation>%1 konnte nicht gestartet werden.</translation>
     </message>
@@ -762,7 +874,7 @@
 <context>
     <name>Elevation</name>
     <message>
-        <location filename="../../src/app/elevation.cpp" line="+17"/>
+        <location filename="../../src/common/widgets/elevationprompt.cpp" line="+17"/>
         <source>Restart application</source>
         <translation>Anwendung neu starten</translation>
     </message>
@@ -814,135 +926,22 @@
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/qcirrocameramanager.cpp" line="+277"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+215"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Control area</source>
-        <translation>Steuerbereich</translation>
-    </message>
-    <message>
         <location line="+2"/>
-        <source>Expert mode</source>
-        <translation>Expertenmodus</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show/hide detailed information view</source>
-        <translation>Detaillierte Informationsansicht ein-/ausblenden</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Automatic parameter refresh</source>
-        <translation>Automatische Parameteraktualisierung</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Enables/Disables the automatic refresh of the detailed information view</source>
-        <translation>Aktiviert/deaktiviert die automatische Aktualisierung der detaillierten Informationsansicht</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Camera information</source>
-        <translation>Kamerainformationen</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <location line="+12"/>
-        <source>Show additional camera information</source>
-        <translation>Zusätzliche Kamerainformationen anzeigen</translation>
-    </message>
-    <message>
-        <location line="-11"/>
-        <source>General information</source>
-        <translation>Allgemeine Informationen</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show general information dialog</source>
-        <translation>Dialog „Allgemeine Informationen“ anzeigen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Upload starter firmware</source>
-        <translation>Starter-Firmware hochladen</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Upload a runtime firmware manually</source>
-        <translation>Runtime-Firmware manuell hochladen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Create support file</source>
-        <translation>Supportdatei erstellen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Create a support file with important system
- and %1 information for sending to the %2 support</source>
-        <translation>Erstellt eine Supportdatei mit wichtigen Informationen zum System
- und zu %1, die Sie an den Support von %2 senden können</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>ETH network service</source>
-        <translation>ETH-Netzwerkdienst</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show network configuration dialog</source>
-        <translation>Dialog für die Netzwerkkonfiguration anzeigen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Additional functions</source>
-        <translation>Zusatzfunktionen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Manual ETH configuration</source>
-        <translation>Manuelle ETH-Konfiguration</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show network device configuration dialog</source>
-        <translation>Dialog für die Konfiguration des Netzwerkgeräts anzeigen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Automatic ETH configuration</source>
-        <translation>Automatische ETH-Konfiguration</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Automatic network configuration</source>
-        <translation>Automatische Netzwerkkonfiguration</translation>
-    </message>
-    <message>
-        <location line="+1"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>Quits the application window</source>
         <translation>Schließt das Anwendungsfenster</translation>
     </message>
     <message>
         <location line="+1"/>
-        <source>Read support file</source>
-        <translation>Supportdatei einlesen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Additional Camera Info</source>
-        <translation>Zusätzliche Kamerainfos</translation>
-    </message>
-    <message>
-        <location line="+5"/>
         <source>Device details</source>
         <translation>Gerätedetails</translation>
     </message>
@@ -952,12 +951,7 @@
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <source>The %1 Camera Manager is running with root privileges!</source>
-        <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
-    </message>
-    <message>
-        <location line="+153"/>
+        <location line="+119"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>
@@ -972,7 +966,7 @@ Rückgabecode: %1</translation>
 <context>
     <name>ServiceManager</name>
     <message>
-        <location filename="../../src/common/servicemanager.cpp" line="+27"/>
+        <location filename="../../src/services/servicemanager.cpp" line="+27"/>
         <source>The service %1 is not installed.</source>
         <translation>Der Dienst %1 ist nicht installiert.</translation>
     </message>
@@ -990,15 +984,23 @@ Rückgabecode: %1</translation>
 <context>
     <name>SimulatedServiceManager</name>
     <message>
-        <location filename="../../src/common/simulatedservicemanager.cpp" line="+32"/>
+        <location filename="../../src/services/simulatedservicemanager.cpp" line="+32"/>
         <source>the simulated driver refused with code %1.</source>
         <translation>der simulierte Treiber hat mit Code %1 abgelehnt.</translation>
     </message>
 </context>
 <context>
+    <name>StatusPanel</name>
+    <message>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+94"/>
+        <source>The %1 Camera Manager is running with root privileges!</source>
+        <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
+    </message>
+</context>
+<context>
     <name>StatusTexts</name>
     <message>
-        <location filename="../../src/camera/statusassessment.cpp" line="+25"/>
+        <location filename="../../src/camera/statusassessment.cpp" line="+23"/>
         <source>You have opened the camera</source>
         <translation>Sie haben die Kamera geöffnet</translation>
     </message>
@@ -1130,7 +1132,7 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
 <context>
     <name>SystemdServiceManager</name>
     <message>
-        <location filename="../../src/common/systemdservicemanager_linux.cpp" line="+77"/>
+        <location filename="../../src/services/systemdservicemanager_linux.cpp" line="+77"/>
         <source>there is no connection to D-Bus (%1).</source>
         <translation>es besteht keine Verbindung zum D-Bus (%1).</translation>
     </message>
@@ -1161,7 +1163,7 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
 <context>
     <name>main</name>
     <message>
-        <location filename="../../src/app/apiversioncheck.cpp" line="+20"/>
+        <location filename="../../src/app/apiversioncheck.cpp" line="+19"/>
         <source>%4 Camera Manager %1 doesn&apos;t work with
 lib%4_api &lt; %2.%3!
 use a newer lib%4!</source>
@@ -1190,7 +1192,7 @@ Verwenden Sie eine neuere lib%4!</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location filename="../../src/app/startup.cpp" line="+39"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+51"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>Der Kameratreiber hat die Geräteereignisse der Kameraliste abgelehnt.

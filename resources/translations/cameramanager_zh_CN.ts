@@ -50,7 +50,7 @@
 <context>
     <name>CameraList</name>
     <message>
-        <location filename="../../src/camera/cameralist.cpp" line="+119"/>
+        <location filename="../../src/camera/widgets/cameralist.cpp" line="+122"/>
         <source>&amp;Open this camera</source>
         <translation>打开此相机(&amp;O)</translation>
     </message>
@@ -60,7 +60,7 @@
         <translation>打开所有可用相机(&amp;A)</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+6"/>
         <source>&amp;Refresh list</source>
         <translation>刷新列表(&amp;R)</translation>
     </message>
@@ -70,7 +70,7 @@
         <translation>识别此相机(&amp;I)</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>&amp;Camera information</source>
         <translation>相机信息(&amp;C)</translation>
     </message>
@@ -85,7 +85,7 @@
         <translation>添加只读设备(&amp;A)</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
@@ -103,7 +103,7 @@
 <context>
     <name>CameraListModel</name>
     <message>
-        <location filename="../../src/camera/cameralistmodel.cpp" line="+97"/>
+        <location filename="../../src/camera/cameralistmodel.cpp" line="+81"/>
         <source>Free</source>
         <translation>空闲</translation>
     </message>
@@ -138,23 +138,135 @@
         <translation>序列号</translation>
     </message>
     <message>
-        <location line="+60"/>
-        <location line="+2"/>
-        <location line="+15"/>
+        <location filename="../../src/camera/cameracelltexts.cpp" line="+21"/>
         <source>No</source>
         <translation>否</translation>
     </message>
     <message>
-        <location line="-17"/>
-        <location line="+3"/>
-        <location line="+14"/>
+        <location line="-5"/>
         <source>Yes</source>
         <translation>是</translation>
     </message>
     <message>
-        <location line="-15"/>
+        <location line="+51"/>
         <source>Yes (BB)</source>
         <translation>是 (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>ControlArea</name>
+    <message>
+        <location filename="../../src/app/widgets/controlarea.cpp" line="+84"/>
+        <source>Control area</source>
+        <translation>控制区</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Expert mode</source>
+        <translation>专家模式</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Show/hide detailed information view</source>
+        <translation>显示/隐藏详细信息视图</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic parameter refresh</source>
+        <translation>自动刷新参数</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enables/Disables the automatic refresh of the detailed information view</source>
+        <translation>启用/禁用详细信息视图的自动刷新</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Camera information</source>
+        <translation>相机信息</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+11"/>
+        <source>Show additional camera information</source>
+        <translation>显示附加相机信息</translation>
+    </message>
+    <message>
+        <location line="-10"/>
+        <source>General information</source>
+        <translation>常规信息</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show general information dialog</source>
+        <translation>显示“常规信息”对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Upload starter firmware</source>
+        <translation>上传启动固件</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Upload a runtime firmware manually</source>
+        <translation>手动上传运行时固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create support file</source>
+        <translation>创建支持文件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Create a support file with important system
+ and %1 information for sending to the %2 support</source>
+        <translation>创建一个包含重要系统信息
+ 和 %1 信息的支持文件，用于发送给 %2 技术支持</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH network service</source>
+        <translation>ETH 网络服务</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network configuration dialog</source>
+        <translation>显示网络配置对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional functions</source>
+        <translation>附加功能</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manual ETH configuration</source>
+        <translation>手动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show network device configuration dialog</source>
+        <translation>显示网络设备配置对话框</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic ETH configuration</source>
+        <translation>自动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Automatic network configuration</source>
+        <translation>自动网络配置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Read support file</source>
+        <translation>读取支持文件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Additional Camera Info</source>
+        <translation>附加相机信息</translation>
     </message>
 </context>
 <context>
@@ -741,7 +853,7 @@
 <context>
     <name>DeviceInfoView</name>
     <message>
-        <location filename="../../src/details/deviceinfoview.cpp" line="+82"/>
+        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
         <source>Copy item values</source>
         <translation>复制条目值</translation>
     </message>
@@ -749,7 +861,7 @@
 <context>
     <name>ElevatedRestart</name>
     <message>
-        <location filename="../../src/app/elevatedrestart_linux.cpp" line="+68"/>
+        <location filename="../../src/common/elevatedrestart_linux.cpp" line="+68"/>
         <source>%1 could not be started.</source>
         <translation>无法启动 %1。</translation>
     </message>
@@ -762,7 +874,7 @@
 <context>
     <name>Elevation</name>
     <message>
-        <location filename="../../src/app/elevation.cpp" line="+17"/>
+        <location filename="../../src/common/widgets/elevationprompt.cpp" line="+17"/>
         <source>Restart application</source>
         <translation>重新启动应用程序</translation>
     </message>
@@ -814,135 +926,22 @@
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/qcirrocameramanager.cpp" line="+277"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+215"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Control area</source>
-        <translation>控制区</translation>
-    </message>
-    <message>
         <location line="+2"/>
-        <source>Expert mode</source>
-        <translation>专家模式</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show/hide detailed information view</source>
-        <translation>显示/隐藏详细信息视图</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Automatic parameter refresh</source>
-        <translation>自动刷新参数</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Enables/Disables the automatic refresh of the detailed information view</source>
-        <translation>启用/禁用详细信息视图的自动刷新</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Camera information</source>
-        <translation>相机信息</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <location line="+12"/>
-        <source>Show additional camera information</source>
-        <translation>显示附加相机信息</translation>
-    </message>
-    <message>
-        <location line="-11"/>
-        <source>General information</source>
-        <translation>常规信息</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show general information dialog</source>
-        <translation>显示“常规信息”对话框</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Upload starter firmware</source>
-        <translation>上传启动固件</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Upload a runtime firmware manually</source>
-        <translation>手动上传运行时固件</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Create support file</source>
-        <translation>创建支持文件</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Create a support file with important system
- and %1 information for sending to the %2 support</source>
-        <translation>创建一个包含重要系统信息
- 和 %1 信息的支持文件，用于发送给 %2 技术支持</translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>ETH network service</source>
-        <translation>ETH 网络服务</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show network configuration dialog</source>
-        <translation>显示网络配置对话框</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Additional functions</source>
-        <translation>附加功能</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Manual ETH configuration</source>
-        <translation>手动 ETH 配置</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Show network device configuration dialog</source>
-        <translation>显示网络设备配置对话框</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Automatic ETH configuration</source>
-        <translation>自动 ETH 配置</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Automatic network configuration</source>
-        <translation>自动网络配置</translation>
-    </message>
-    <message>
-        <location line="+1"/>
         <source>Close</source>
         <translation>关闭</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>Quits the application window</source>
         <translation>关闭应用程序窗口</translation>
     </message>
     <message>
         <location line="+1"/>
-        <source>Read support file</source>
-        <translation>读取支持文件</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Additional Camera Info</source>
-        <translation>附加相机信息</translation>
-    </message>
-    <message>
-        <location line="+5"/>
         <source>Device details</source>
         <translation>设备详细信息</translation>
     </message>
@@ -952,12 +951,7 @@
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <source>The %1 Camera Manager is running with root privileges!</source>
-        <translation>%1 相机管理器正在以 root 权限运行！</translation>
-    </message>
-    <message>
-        <location line="+153"/>
+        <location line="+119"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
@@ -972,7 +966,7 @@ Return code: %1</source>
 <context>
     <name>ServiceManager</name>
     <message>
-        <location filename="../../src/common/servicemanager.cpp" line="+27"/>
+        <location filename="../../src/services/servicemanager.cpp" line="+27"/>
         <source>The service %1 is not installed.</source>
         <translation>服务 %1 未安装。</translation>
     </message>
@@ -990,15 +984,23 @@ Return code: %1</source>
 <context>
     <name>SimulatedServiceManager</name>
     <message>
-        <location filename="../../src/common/simulatedservicemanager.cpp" line="+32"/>
+        <location filename="../../src/services/simulatedservicemanager.cpp" line="+32"/>
         <source>the simulated driver refused with code %1.</source>
         <translation>模拟驱动程序拒绝了请求，代码为 %1。</translation>
     </message>
 </context>
 <context>
+    <name>StatusPanel</name>
+    <message>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+94"/>
+        <source>The %1 Camera Manager is running with root privileges!</source>
+        <translation>%1 相机管理器正在以 root 权限运行！</translation>
+    </message>
+</context>
+<context>
     <name>StatusTexts</name>
     <message>
-        <location filename="../../src/camera/statusassessment.cpp" line="+25"/>
+        <location filename="../../src/camera/statusassessment.cpp" line="+23"/>
         <source>You have opened the camera</source>
         <translation>您已打开此相机</translation>
     </message>
@@ -1130,7 +1132,7 @@ An automatic upload will be initiated next time you open the camera. This upload
 <context>
     <name>SystemdServiceManager</name>
     <message>
-        <location filename="../../src/common/systemdservicemanager_linux.cpp" line="+77"/>
+        <location filename="../../src/services/systemdservicemanager_linux.cpp" line="+77"/>
         <source>there is no connection to D-Bus (%1).</source>
         <translation>未连接到 D-Bus (%1)。</translation>
     </message>
@@ -1161,7 +1163,7 @@ An automatic upload will be initiated next time you open the camera. This upload
 <context>
     <name>main</name>
     <message>
-        <location filename="../../src/app/apiversioncheck.cpp" line="+20"/>
+        <location filename="../../src/app/apiversioncheck.cpp" line="+19"/>
         <source>%4 Camera Manager %1 doesn&apos;t work with
 lib%4_api &lt; %2.%3!
 use a newer lib%4!</source>
@@ -1190,7 +1192,7 @@ lib%4_api &lt; %2.%3 配合使用！
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location filename="../../src/app/startup.cpp" line="+39"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+51"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>相机驱动程序拒绝了相机列表的设备事件。
