@@ -109,6 +109,9 @@ typedef struct pv_CameraListEntry {
  * 16 bits. */
 #define PV_VERSION(major, minor, build) \
     ((uint32_t)(((uint32_t)(major) << 24) | ((uint32_t)(minor) << 16) | ((uint32_t)(build) & 0xFFFFu)))
+#define PV_VERSION_MAJOR(word) ((uint32_t)(word) >> 24)
+#define PV_VERSION_MINOR(word) (((uint32_t)(word) >> 16) & 0xFFu)
+#define PV_VERSION_BUILD(word) ((uint32_t)(word) & 0xFFFFu)
 
 /* Bits of pv_DeviceInformation.deviceStatus (the camera's own state). */
 #define PV_STATUS_READY 0x00000001u

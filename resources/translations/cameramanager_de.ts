@@ -48,6 +48,37 @@
     </message>
 </context>
 <context>
+    <name>CameraActions</name>
+    <message>
+        <location filename="../../src/camera/cameraactions.cpp" line="+25"/>
+        <source>Camera %1 could not be opened.
+Return code: %2</source>
+        <translation>Kamera %1 konnte nicht geöffnet werden.
+Rückgabecode: %2</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Camera %1 did not accept the identification command.
+Return code: %2</source>
+        <translation>Kamera %1 hat den Identifizierungsbefehl nicht angenommen.
+Rückgabecode: %2</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The read-only device could not be removed.
+Return code: %1</source>
+        <translation>Das schreibgeschützte Gerät konnte nicht entfernt werden.
+Rückgabecode: %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The ETH service could not be connected.
+Return code: %1</source>
+        <translation>Der ETH-Dienst konnte nicht verbunden werden.
+Rückgabecode: %1</translation>
+    </message>
+</context>
+<context>
     <name>CameraList</name>
     <message>
         <location filename="../../src/camera/widgets/cameralist.cpp" line="+122"/>
@@ -292,7 +323,7 @@
         <translation>Werte</translation>
     </message>
     <message>
-        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+113"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+110"/>
         <source>Starter firmware version</source>
         <translation>Version der Starter-Firmware</translation>
     </message>
@@ -903,6 +934,14 @@
     </message>
 </context>
 <context>
+    <name>NetworkFailure</name>
+    <message>
+        <location filename="../../src/network/networkfailure.cpp" line="+5"/>
+        <source>There is no network adapter &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Netzwerkadapter „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>NetworkManagerClient</name>
     <message>
         <location filename="../../src/network/networkmanagerclient_linux.cpp" line="+167"/>
@@ -913,14 +952,6 @@
         <location line="+25"/>
         <source>NetworkManager refused the change on %1: %2</source>
         <translation>NetworkManager hat die Änderung an %1 abgelehnt: %2</translation>
-    </message>
-</context>
-<context>
-    <name>NetworkResult</name>
-    <message>
-        <location filename="../../src/network/networkresult.cpp" line="+5"/>
-        <source>There is no network adapter &quot;%1&quot;.</source>
-        <translation>Es gibt keinen Netzwerkadapter „%1“.</translation>
     </message>
 </context>
 <context>
@@ -954,13 +985,6 @@
         <location line="+119"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>The read-only device could not be removed.
-Return code: %1</source>
-        <translation>Das schreibgeschützte Gerät konnte nicht entfernt werden.
-Rückgabecode: %1</translation>
     </message>
 </context>
 <context>
@@ -1000,7 +1024,7 @@ Rückgabecode: %1</translation>
 <context>
     <name>StatusTexts</name>
     <message>
-        <location filename="../../src/camera/statusassessment.cpp" line="+23"/>
+        <location filename="../../src/camera/statusassessment.cpp" line="+24"/>
         <source>You have opened the camera</source>
         <translation>Sie haben die Kamera geöffnet</translation>
     </message>
@@ -1077,7 +1101,7 @@ Rückgabecode: %1</translation>
         <translation>Das Firmware-Image ist nicht verfügbar oder beschädigt. Bitte führen Sie die Installation von %1 erneut aus.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>The starter firmware of the camera is incompatible to the driver.
 An automatic upload will be initiated next time you open the camera. This upload will take several seconds. Do not switch off the power supply and do not unplug the camera! It is strongly recommended to upload the firmware over the button &apos;Starter Firmware Upload&apos;. The requested starter firmware version is %1.%2.%3</source>
         <translation>Die Starter-Firmware der Kamera ist nicht mit dem Treiber kompatibel.
@@ -1163,7 +1187,7 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
 <context>
     <name>main</name>
     <message>
-        <location filename="../../src/app/apiversioncheck.cpp" line="+19"/>
+        <location filename="../../src/app/apiversioncheck.cpp" line="+18"/>
         <source>%4 Camera Manager %1 doesn&apos;t work with
 lib%4_api &lt; %2.%3!
 use a newer lib%4!</source>

@@ -43,8 +43,8 @@ void copyText(char (&target)[N], const std::string& text)
 
 std::string versionText(std::uint32_t version)
 {
-    return std::to_string(version >> 24) + '.' + std::to_string((version >> 16) & 0xFF) + '.'
-           + std::to_string(version & 0xFFFF);
+    return std::to_string(PV_VERSION_MAJOR(version)) + '.' + std::to_string(PV_VERSION_MINOR(version)) + '.'
+           + std::to_string(PV_VERSION_BUILD(version));
 }
 
 // Counters that grow while the camera is connected, as a driver's would.
@@ -319,9 +319,9 @@ void SimCamera::fillDeviceInformation(pv_DeviceInformation& info, const SimAdapt
     info.maxStarterFirmware = settings.maxStarter;
     info.firmwareSelector = firmwareSelector;
     const std::uint32_t running = firmwareSelector == 0 ? starterFirmware : runtimeFirmware;
-    info.firmwareVersionParts[0] = std::uint16_t(running >> 24);
-    info.firmwareVersionParts[1] = std::uint16_t((running >> 16) & 0xFF);
-    info.firmwareVersionParts[2] = std::uint16_t(running & 0xFFFF);
+    info.firmwareVersionParts[0] = std::uint16_t(PV_VERSION_MAJOR(running));
+    info.firmwareVersionParts[1] = std::uint16_t(PV_VERSION_MINOR(running));
+    info.firmwareVersionParts[2] = std::uint16_t(PV_VERSION_BUILD(running));
     info.firmwareRevision = firmwareRevision;
     info.usbVersionCode = usbVersionCode;
     info.deviceFlags = deviceFlags;

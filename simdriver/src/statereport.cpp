@@ -15,7 +15,7 @@ QString ip(std::uint32_t address)
 
 QString version(std::uint32_t word)
 {
-    return QStringLiteral("%1.%2.%3").arg(word >> 24).arg((word >> 16) & 0xFF).arg(word & 0xFFFF);
+    return QStringLiteral("%1.%2.%3").arg(PV_VERSION_MAJOR(word)).arg(PV_VERSION_MINOR(word)).arg(PV_VERSION_BUILD(word));
 }
 
 QJsonObject cameraReport(const SimCamera& camera, bool visible)
@@ -72,7 +72,7 @@ QJsonObject settingsReport(const DriverSettings& settings)
     for (const auto& [key, value] : settings.registry)
         registry.insert(QString::fromStdString(key), QString::fromStdString(value));
     return QJsonObject{
-        {"apiVersion", QStringLiteral("%1.%2").arg(settings.apiVersion >> 24).arg((settings.apiVersion >> 16) & 0xFF)},
+        {"apiVersion", QStringLiteral("%1.%2").arg(PV_VERSION_MAJOR(settings.apiVersion)).arg(PV_VERSION_MINOR(settings.apiVersion))},
         {"starterImage", version(settings.starterImage)},
         {"bootBoost", settings.bootBoostEnabled},
         {"bootBoostIds", ids},

@@ -1,6 +1,7 @@
 #include "app/apiversioncheck.h"
 
 #include "app/identity.h"
+#include "common/versionword.h"
 
 #include <QCoreApplication>
 
@@ -8,9 +9,7 @@ namespace ApiVersionCheck {
 
 bool isSupported(std::uint32_t version)
 {
-    const int major = static_cast<int>(version >> 24);
-    const int minor = static_cast<int>((version >> 16) & 0xFFu);
-    return major > minimumMajor || (major == minimumMajor && minor >= minimumMinor);
+    return VersionWord(version).isAtLeast(minimumMajor, minimumMinor);
 }
 
 QString refusalText()

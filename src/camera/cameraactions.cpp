@@ -1,5 +1,7 @@
 #include "camera/cameraactions.h"
 
+#include <QCoreApplication>
+
 #include <thread>
 
 namespace {
@@ -15,37 +17,53 @@ void writeNetworkOrder(quint32 apiWord, std::uint8_t (&bytes)[4])
 
 namespace CameraActions {
 
-bool identify(const Camera& camera, std::chrono::milliseconds delay)
+Result identify(const Camera& camera, std::chrono::milliseconds delay)
 {
     quint32 handle = camera.deviceId() | PV_DEVICE_ID_FLAG;
-    if (pv_OpenCamera(&handle, nullptr) != PV_OK)
-        return false;
+    const std::int32_t opened = pv_OpenCamera(&handle, nullptr);
+    if (opened != PV_OK) {
+        return {opened, QCoreApplication::translate("CameraActions", "Camera %1 could not be opened.\nReturn code: %2")
+                            .arg(camera.deviceId())
+                            .arg(opened)};
+    }
     std::this_thread::sleep_for(delay);
     quint32 blink = PV_IDENTIFY_BLINK;
-    const bool blinked = pv_CameraCommand(handle, PV_CAMCMD_IDENTIFY, &blink, sizeof blink) == PV_OK;
+    const std::int32_t blinked = pv_CameraCommand(handle, PV_CAMCMD_IDENTIFY, &blink, sizeof blink);
     pv_CloseCamera(handle);
-    return blinked;
+    if (blinked == PV_OK)
+        return {};
+    return {blinked, QCoreApplication::translate("CameraActions",
+                                                 "Camera %1 did not accept the identification command.\nReturn code: %2")
+                         .arg(camera.deviceId())
+                         .arg(blinked)};
 }
 
-std::int32_t removeReadOnlyDevice(const Camera& camera)
+Result removeReadOnlyDevice(const Camera& camera)
 {
     pv_ReadOnlyRequest request{};
     writeNetworkOrder(camera.eth().currentIp, request.multicastIp);
     writeNetworkOrder(camera.eth().persistentIp, request.sourceIp);
     request.cameraId = camera.cameraId();
     request.mode = 1;
-    const std::int32_t result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request);
-    if (result != PV_OK)
-        return result;
-    return pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0);
+    std::int32_t result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request);
+    if (result == PV_OK)
+        result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0);
+    if (result == PV_OK)
+        return {};
+    return {result, QCoreApplication::translate("CameraActions", "The read-only device could not be removed.\nReturn code: %1")
+                        .arg(result)};
 }
 
-std::int32_t connectEthService()
+Result connectEthService()
 {
-    const std::int32_t result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_CONNECT, nullptr, 0);
-    if (result != PV_OK)
-        return result;
-    return pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0);
+    std::int32_t result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_CONNECT, nullptr, 0);
+    if (result == PV_OK)
+        result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0);
+    if (result == PV_OK)
+        return {};
+    return {result,
+            QCoreApplication::translate("CameraActions", "The ETH service could not be connected.\nReturn code: %1")
+                .arg(result)};
 }
 
 } // namespace CameraActions

@@ -1,6 +1,7 @@
 #include "camera/statusassessment.h"
 
 #include "camera/camera.h"
+#include "common/versionword.h"
 
 namespace {
 
@@ -106,15 +107,16 @@ StatusAssessment assessReachableGige(const Camera& camera, bool free)
             return reason(camera, StatusTexts::tr("Firmware image is not available or corrupted. Please reinstall the "
                                                   "%1 setup.")
                                       .arg(StatusTexts::productLine()));
+        const VersionWord requested(image);
         return reason(camera,
                       StatusTexts::tr("The starter firmware of the camera is incompatible to the driver.\nAn automatic "
                                       "upload will be initiated next time you open the camera. This upload will take "
                                       "several seconds. Do not switch off the power supply and do not unplug the "
                                       "camera! It is strongly recommended to upload the firmware over the button "
                                       "'Starter Firmware Upload'. The requested starter firmware version is %1.%2.%3")
-                          .arg(image >> 24)
-                          .arg((image >> 16) & 0xFF)
-                          .arg(image & 0xFFFF));
+                          .arg(requested.major())
+                          .arg(requested.minor())
+                          .arg(requested.build()));
     }
     if (!free)
         return make(StatusTexts::tr("Status of device %1: The camera is currently running in the boot boost mode. It "

@@ -1,6 +1,7 @@
 #include "details/deviceinfotreebuilder.h"
 
 #include "camera/camera.h"
+#include "common/versionword.h"
 #include "details/deviceflagrenderer.h"
 #include "details/devicevaluerenderer.h"
 #include "details/flagtables.h"
@@ -17,13 +18,9 @@ constexpr quint8 usb3VisionTypeCode = 225;
 constexpr int userEepromLength = 8;
 constexpr int comPortBase = 100;
 
-// Major in decimal, minor in two digits, build in four: "4.97.1203".
 QString versionText(quint32 word)
 {
-    return QStringLiteral("%1.%2.%3")
-        .arg(word >> 24)
-        .arg((word >> 16) & 0xFF, 2, 10, QLatin1Char('0'))
-        .arg(word & 0xFFFF, 4, 10, QLatin1Char('0'));
+    return VersionWord(word).paddedText();
 }
 
 QString nonZeroIp(quint32 apiWord)

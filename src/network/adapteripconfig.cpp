@@ -33,25 +33,25 @@ bool isHostAddress(const QHostAddress& address, int prefixLength)
 
 } // namespace
 
-NetworkResult AdapterIpConfig::enableStatic(const QString& interfaceName, const QHostAddress& address,
+Result AdapterIpConfig::enableStatic(const QString& interfaceName, const QHostAddress& address,
                                             const QHostAddress& netmask)
 {
     const int prefixLength = prefixLengthOf(netmask);
     if (prefixLength < 1)
-        return {NetworkResult::InvalidNetmask, tr("%1 is not a valid subnet mask.").arg(netmask.toString())};
+        return {HostError::InvalidNetmask, tr("%1 is not a valid subnet mask.").arg(netmask.toString())};
     if (!isHostAddress(address, prefixLength)) {
-        return {NetworkResult::InvalidAddress,
+        return {HostError::InvalidAddress,
                 tr("%1 is not a valid address for a host in a subnet with mask %2.")
                     .arg(address.toString(), netmask.toString())};
     }
     if (!QNetworkInterface::interfaceFromName(interfaceName).isValid())
-        return NetworkResult::unknownInterface(interfaceName);
+        return NetworkFailure::unknownInterface(interfaceName);
     return applyStatic(interfaceName, address, prefixLength);
 }
 
-NetworkResult AdapterIpConfig::enableDhcp(const QString& interfaceName)
+Result AdapterIpConfig::enableDhcp(const QString& interfaceName)
 {
     if (!QNetworkInterface::interfaceFromName(interfaceName).isValid())
-        return NetworkResult::unknownInterface(interfaceName);
+        return NetworkFailure::unknownInterface(interfaceName);
     return applyDhcp(interfaceName);
 }

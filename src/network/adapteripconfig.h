@@ -1,6 +1,6 @@
 #pragma once
 
-#include "network/networkresult.h"
+#include "network/networkfailure.h"
 
 #include <QCoreApplication>
 #include <QHostAddress>
@@ -14,12 +14,12 @@ class AdapterIpConfig final
 
 public:
     // Replaces the adapter's IPv4 addresses by address/netmask.
-    static NetworkResult enableStatic(const QString& interfaceName, const QHostAddress& address,
+    static Result enableStatic(const QString& interfaceName, const QHostAddress& address,
                                       const QHostAddress& netmask);
-    static NetworkResult enableDhcp(const QString& interfaceName);
+    static Result enableDhcp(const QString& interfaceName);
 
 private:
     // Platform parts, called with checked arguments.
-    static NetworkResult applyStatic(const QString& interfaceName, const QHostAddress& address, int prefixLength);
-    static NetworkResult applyDhcp(const QString& interfaceName);
+    static Result applyStatic(const QString& interfaceName, const QHostAddress& address, int prefixLength);
+    static Result applyDhcp(const QString& interfaceName);
 };

@@ -32,7 +32,7 @@ int replaceIpv4Addresses(int interfaceIndex, const RtnetlinkSocket::Ipv4Address&
 
 } // namespace
 
-NetworkResult AdapterIpConfig::applyStatic(const QString& interfaceName, const QHostAddress& address,
+Result AdapterIpConfig::applyStatic(const QString& interfaceName, const QHostAddress& address,
                                            int prefixLength)
 {
     if (const std::optional<NetworkManagerClient> manager = NetworkManagerClient::managing(interfaceName))
@@ -45,19 +45,19 @@ NetworkResult AdapterIpConfig::applyStatic(const QString& interfaceName, const Q
 
     qCWarning(lcNetwork) << "setting" << address << "on" << interfaceName << "failed:" << std::strerror(error);
     if (error == EPERM || error == EACCES) {
-        return {NetworkResult::PermissionDenied,
+        return {HostError::PermissionDenied,
                 tr("Changing the address of %1 needs administrator rights.").arg(interfaceName)};
     }
     if (error == ENODEV)
-        return NetworkResult::unknownInterface(interfaceName);
-    return {NetworkResult::SystemCallFailed, tr("Setting the address of %1 failed: %2")
+        return NetworkFailure::unknownInterface(interfaceName);
+    return {HostError::SystemCallFailed, tr("Setting the address of %1 failed: %2")
                                                  .arg(interfaceName, QString::fromLocal8Bit(std::strerror(error)))};
 }
 
-NetworkResult AdapterIpConfig::applyDhcp(const QString& interfaceName)
+Result AdapterIpConfig::applyDhcp(const QString& interfaceName)
 {
     if (const std::optional<NetworkManagerClient> manager = NetworkManagerClient::managing(interfaceName))
         return manager->enableDhcp(interfaceName);
-    return {NetworkResult::NotSupported,
+    return {HostError::NotSupported,
             tr("Switching %1 to DHCP is not supported without NetworkManager.").arg(interfaceName)};
 }

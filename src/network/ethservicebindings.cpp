@@ -31,10 +31,10 @@ bool EthServiceBindings::isBound(const QString& interfaceName)
         .toBool();
 }
 
-NetworkResult EthServiceBindings::setBound(const QString& interfaceName, bool bound)
+Result EthServiceBindings::setBound(const QString& interfaceName, bool bound)
 {
     if (!isInterfaceName(interfaceName))
-        return NetworkResult::unknownInterface(interfaceName);
+        return NetworkFailure::unknownInterface(interfaceName);
     const auto settings = DriverServiceSettings::open(QLatin1String(DriverServiceSettings::ethService));
     if (settings->isWritable()) {
         settings->setValue(bindingKey(interfaceName), bound);
@@ -43,7 +43,7 @@ NetworkResult EthServiceBindings::setBound(const QString& interfaceName, bool bo
             return {};
     }
     qCWarning(lcNetwork) << "cannot store the ETH service binding in" << settings->fileName();
-    return {NetworkResult::NotWritable,
+    return {HostError::NotWritable,
             tr("The ETH service settings in %1 can't be changed. Restart with elevated privileges!")
                 .arg(settings->fileName())};
 }

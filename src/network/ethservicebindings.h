@@ -1,6 +1,6 @@
 #pragma once
 
-#include "network/networkresult.h"
+#include "network/networkfailure.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -15,5 +15,5 @@ class EthServiceBindings final
 public:
     // True for an interface without an entry or when the file can't be read.
     static bool isBound(const QString& interfaceName);
-    static NetworkResult setBound(const QString& interfaceName, bool bound);
+    static Result setBound(const QString& interfaceName, bool bound);
 };

@@ -68,11 +68,11 @@ QPair<QString, QString> findAdapterByMac(const QString& mac)
     return {};
 }
 
-NetworkResult getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp)
+Result getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp)
 {
     const QNetworkInterface interface = QNetworkInterface::interfaceFromName(interfaceName);
     if (!interface.isValid())
-        return NetworkResult::unknownInterface(interfaceName);
+        return NetworkFailure::unknownInterface(interfaceName);
     index = interface.index();
     dhcp = managedDhcpState(interfaceName).value_or(isLeased(firstIpv4Entry(interface)));
     return {};

@@ -2,7 +2,7 @@
 
 #include "network/adapterdriverinfo.h"
 #include "network/networkadapter.h"
-#include "network/networkresult.h"
+#include "network/networkfailure.h"
 
 #include <QPair>
 #include <QString>
@@ -27,4 +27,4 @@ AdapterDriverInfo getAdapterDriverInfo(const QString& interfaceName);
 
 // The interface index and whether the adapter takes its IPv4 address by DHCP;
 // both outputs stay unchanged when the interface does not exist.
-NetworkResult getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp);
+Result getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp);

@@ -112,13 +112,13 @@ std::optional<bool> NetworkManagerClient::dhcpEnabled(const QString& interfaceNa
     return !pathProperty(devicePath(interfaceName), deviceInterface, QStringLiteral("Dhcp4Config")).isEmpty();
 }
 
-NetworkResult NetworkManagerClient::setStaticIpv4(const QString& interfaceName, const QHostAddress& address,
+Result NetworkManagerClient::setStaticIpv4(const QString& interfaceName, const QHostAddress& address,
                                                   int prefixLength) const
 {
     return changeIpv4(interfaceName, [&](QVariantMap& ipv4) { setStatic(ipv4, address, prefixLength); });
 }
 
-NetworkResult NetworkManagerClient::enableDhcp(const QString& interfaceName) const
+Result NetworkManagerClient::enableDhcp(const QString& interfaceName) const
 {
     return changeIpv4(interfaceName, setDhcp);
 }
@@ -153,7 +153,7 @@ QDBusMessage NetworkManagerClient::call(const QString& objectPath, const QString
     return reply;
 }
 
-NetworkResult NetworkManagerClient::changeIpv4(const QString& interfaceName,
+Result NetworkManagerClient::changeIpv4(const QString& interfaceName,
                                                const std::function<void(QVariantMap&)>& change) const
 {
     const QString device = devicePath(interfaceName);
@@ -163,7 +163,7 @@ NetworkResult NetworkManagerClient::changeIpv4(const QString& interfaceName,
         ? QString()
         : pathProperty(active, activeConnectionInterface, QStringLiteral("Connection"));
     if (profile.isEmpty()) {
-        return {NetworkResult::NetworkManagerFailed,
+        return {HostError::NetworkManagerFailed,
                 tr("NetworkManager has no active connection on %1.").arg(interfaceName)};
     }
 
@@ -185,9 +185,9 @@ NetworkResult NetworkManagerClient::changeIpv4(const QString& interfaceName,
     return {};
 }
 
-NetworkResult NetworkManagerClient::failure(const QString& interfaceName, const QDBusMessage& reply) const
+Result NetworkManagerClient::failure(const QString& interfaceName, const QDBusMessage& reply) const
 {
     qCWarning(lcNetwork) << "NetworkManager refused a change on" << interfaceName << reply.errorMessage();
-    return {NetworkResult::NetworkManagerFailed,
+    return {HostError::NetworkManagerFailed,
             tr("NetworkManager refused the change on %1: %2").arg(interfaceName, reply.errorMessage())};
 }

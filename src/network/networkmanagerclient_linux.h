@@ -1,6 +1,6 @@
 #pragma once
 
-#include "network/networkresult.h"
+#include "network/networkfailure.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -36,8 +36,8 @@ public:
     // does not manage it.
     std::optional<bool> dhcpEnabled(const QString& interfaceName) const;
 
-    NetworkResult setStaticIpv4(const QString& interfaceName, const QHostAddress& address, int prefixLength) const;
-    NetworkResult enableDhcp(const QString& interfaceName) const;
+    Result setStaticIpv4(const QString& interfaceName, const QHostAddress& address, int prefixLength) const;
+    Result enableDhcp(const QString& interfaceName) const;
 
 private:
     static bool inInitialNetworkNamespace();
@@ -46,8 +46,8 @@ private:
     QString pathProperty(const QString& objectPath, const QString& interface, const QString& name) const;
     QDBusMessage call(const QString& objectPath, const QString& interface, const QString& method,
                       const QVariantList& arguments) const;
-    NetworkResult changeIpv4(const QString& interfaceName, const std::function<void(QVariantMap&)>& change) const;
-    NetworkResult failure(const QString& interfaceName, const QDBusMessage& reply) const;
+    Result changeIpv4(const QString& interfaceName, const std::function<void(QVariantMap&)>& change) const;
+    Result failure(const QString& interfaceName, const QDBusMessage& reply) const;
 
     QDBusConnection m_bus;
 };

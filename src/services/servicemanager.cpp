@@ -12,24 +12,24 @@ CoreStates ServiceManager::coreStates() const
     return states;
 }
 
-ServiceManager::Result ServiceManager::start(const QString& service)
+Result ServiceManager::start(const QString& service)
 {
     return change(service, Change::Start);
 }
 
-ServiceManager::Result ServiceManager::stop(const QString& service)
+Result ServiceManager::stop(const QString& service)
 {
     return change(service, Change::Stop);
 }
 
-ServiceManager::Result ServiceManager::notInstalled(const QString& service)
+Result ServiceManager::notInstalled(const QString& service)
 {
-    return {false, tr("The service %1 is not installed.").arg(service)};
+    return {HostError::ServiceNotInstalled, tr("The service %1 is not installed.").arg(service)};
 }
 
-ServiceManager::Result ServiceManager::failed(const QString& service, Change change, const QString& detail)
+Result ServiceManager::failed(const QString& service, Change change, const QString& detail)
 {
     const QString text = change == Change::Start ? tr("The service %1 could not be started: %2")
                                                  : tr("The service %1 could not be stopped: %2");
-    return {false, text.arg(service, detail)};
+    return {HostError::ServiceControlFailed, text.arg(service, detail)};
 }

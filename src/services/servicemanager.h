@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/result.h"
 #include "services/corestates.h"
 
 #include <QCoreApplication>
@@ -18,12 +19,6 @@ class ServiceManager
     Q_DECLARE_TR_FUNCTIONS(ServiceManager)
 
 public:
-    struct Result
-    {
-        bool ok = true;
-        QString errorText; // translated; empty on success
-    };
-
     // Chooses the manager for the API library this process runs with; call
     // once at start-up.
     static std::unique_ptr<ServiceManager> create();

@@ -21,7 +21,7 @@ CoreStates::State SimulatedServiceManager::state(const QString& service) const
     }
 }
 
-ServiceManager::Result SimulatedServiceManager::change(const QString& service, Change change)
+Result SimulatedServiceManager::change(const QString& service, Change change)
 {
     const std::int32_t code =
         m_controls.setServiceRunning(service.toLatin1().constData(), change == Change::Start ? 1 : 0);

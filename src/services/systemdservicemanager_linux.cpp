@@ -71,7 +71,7 @@ CoreStates::State SystemdServiceManager::state(const QString& service) const
     return runState(unitProperty(unitPath, QStringLiteral("ActiveState")));
 }
 
-ServiceManager::Result SystemdServiceManager::change(const QString& service, Change change)
+Result SystemdServiceManager::change(const QString& service, Change change)
 {
     if (!m_bus.isConnected())
         return failed(service, change, tr("there is no connection to D-Bus (%1).")

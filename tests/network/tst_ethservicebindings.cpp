@@ -83,9 +83,9 @@ void TestEthServiceBindings::unwritableFileIsReported()
         existing.sync();
         QVERIFY(QFile::setPermissions(serviceFile(), QFile::ReadOwner));
     }
-    const NetworkResult result = EthServiceBindings::setBound(QStringLiteral("eth0"), false);
-    QCOMPARE(result.code(), int(NetworkResult::NotWritable));
-    QVERIFY(result.message().contains(serviceFile()));
+    const Result result = EthServiceBindings::setBound(QStringLiteral("eth0"), false);
+    QCOMPARE(result.code(), int(HostError::NotWritable));
+    QVERIFY(result.text().contains(serviceFile()));
     QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
 }
 
@@ -101,8 +101,8 @@ void TestEthServiceBindings::refusesNamesThatAreNoInterfaceNames_data()
 void TestEthServiceBindings::refusesNamesThatAreNoInterfaceNames()
 {
     QFETCH(QString, name);
-    const NetworkResult result = EthServiceBindings::setBound(name, false);
-    QCOMPARE(result.code(), int(NetworkResult::UnknownInterface));
+    const Result result = EthServiceBindings::setBound(name, false);
+    QCOMPARE(result.code(), int(HostError::UnknownInterface));
     QVERIFY(!QFile::exists(serviceFile()));
     QVERIFY(EthServiceBindings::isBound(name));
 }

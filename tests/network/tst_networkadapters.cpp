@@ -112,11 +112,11 @@ void TestNetworkAdapters::notAnInterface()
     QVERIFY(driver.driver.isEmpty() && driver.version.isEmpty() && driver.date.isEmpty());
     int index = -7;
     bool dhcp = true;
-    const NetworkResult result = getAdapterIndex(name, index, dhcp);
-    QCOMPARE(result.code(), int(NetworkResult::UnknownInterface));
-    QVERIFY(result.message().contains(name));
+    const Result result = getAdapterIndex(name, index, dhcp);
+    QCOMPARE(result.code(), int(HostError::UnknownInterface));
+    QVERIFY(result.text().contains(name));
     QVERIFY(index == -7 && dhcp);
-    QCOMPARE(AdapterIpConfig::enableDhcp(name).code(), int(NetworkResult::UnknownInterface));
+    QCOMPARE(AdapterIpConfig::enableDhcp(name).code(), int(HostError::UnknownInterface));
 }
 
 void TestNetworkAdapters::insideNetworkNamespace()
@@ -223,15 +223,15 @@ void TestInsideNamespace::staticAddress_data()
     QTest::addColumn<int>("code");
     // Refused changes leave the lease as it is; the rows run in this order.
     const QString lease = QStringLiteral("10.77.0.2");
-    const int invalidAddress = NetworkResult::InvalidAddress;
-    QTest::newRow("holes in the mask") << leased << lease << "255.0.255.0" << int(NetworkResult::InvalidNetmask);
-    QTest::newRow("zero mask") << leased << lease << "0.0.0.0" << int(NetworkResult::InvalidNetmask);
+    const int invalidAddress = HostError::InvalidAddress;
+    QTest::newRow("holes in the mask") << leased << lease << "255.0.255.0" << int(HostError::InvalidNetmask);
+    QTest::newRow("zero mask") << leased << lease << "0.0.0.0" << int(HostError::InvalidNetmask);
     QTest::newRow("broadcast address") << leased << "10.77.0.255" << "255.255.255.0" << invalidAddress;
     QTest::newRow("loopback") << leased << "127.0.0.5" << "255.0.0.0" << invalidAddress;
     QTest::newRow("multicast") << leased << "239.1.1.1" << "255.255.255.0" << invalidAddress;
     QTest::newRow("IPv6") << leased << "fd00::5" << "255.255.255.0" << invalidAddress;
     QTest::newRow("unknown interface") << "nosuchif0" << lease << "255.255.255.0"
-                                       << int(NetworkResult::UnknownInterface);
+                                       << int(HostError::UnknownInterface);
     QTest::newRow("the leased address made permanent") << leased << lease << "255.255.255.0" << 0;
     QTest::newRow("another subnet") << leased << "172.20.1.5" << "255.255.0.0" << 0;
     QTest::newRow("point-to-point /31") << leased << "192.168.7.0" << "255.255.255.254" << 0;
@@ -245,10 +245,10 @@ void TestInsideNamespace::staticAddress()
     QFETCH(int, code);
     const bool leaseBefore = adapterNamed(leased).dhcp;
     const QList<QNetworkAddressEntry> before = ipv4Entries(leased);
-    const NetworkResult result =
+    const Result result =
         AdapterIpConfig::enableStatic(interfaceName, QHostAddress(address), QHostAddress(mask));
     QCOMPARE(result.code(), code);
-    QCOMPARE(result.message().isEmpty(), code == 0);
+    QCOMPARE(result.text().isEmpty(), code == 0);
 
     const QList<QNetworkAddressEntry> after = ipv4Entries(leased);
     QCOMPARE(after.size(), 1);
@@ -264,9 +264,9 @@ void TestInsideNamespace::staticAddress()
 
 void TestInsideNamespace::dhcpNeedsNetworkManager()
 {
-    const NetworkResult result = AdapterIpConfig::enableDhcp(bound);
-    QCOMPARE(result.code(), int(NetworkResult::NotSupported));
-    QVERIFY(result.message().contains(bound));
+    const Result result = AdapterIpConfig::enableDhcp(bound);
+    QCOMPARE(result.code(), int(HostError::NotSupported));
+    QVERIFY(result.text().contains(bound));
 }
 
 int main(int argc, char** argv)

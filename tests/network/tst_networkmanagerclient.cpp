@@ -180,9 +180,9 @@ void TestNetworkManagerClient::cleanupTestCase()
 void TestNetworkManagerClient::staticAddressKeepsTheRestOfTheProfile()
 {
     QVERIFY(m_client->managesInterface(QStringLiteral("gige0")));
-    const NetworkResult result =
+    const Result result =
         m_client->setStaticIpv4(QStringLiteral("gige0"), QHostAddress(QStringLiteral("192.168.5.7")), 24);
-    QVERIFY2(result.isSuccess(), qPrintable(result.message()));
+    QVERIFY2(result.isSuccess(), qPrintable(result.text()));
     QCOMPARE(m_manager.changes(), QStringList({QStringLiteral("Update"), QStringLiteral("Reapply")}));
 
     const Settings stored = m_manager.profile();
@@ -198,8 +198,8 @@ void TestNetworkManagerClient::staticAddressKeepsTheRestOfTheProfile()
 void TestNetworkManagerClient::dhcpDropsStaticAddresses()
 {
     QCOMPARE(m_client->dhcpEnabled(QStringLiteral("gige0")), std::optional<bool>(false));
-    const NetworkResult result = m_client->enableDhcp(QStringLiteral("gige0"));
-    QVERIFY2(result.isSuccess(), qPrintable(result.message()));
+    const Result result = m_client->enableDhcp(QStringLiteral("gige0"));
+    QVERIFY2(result.isSuccess(), qPrintable(result.text()));
 
     const QVariantMap ipv4 = m_manager.profile().value(QStringLiteral("ipv4"));
     QCOMPARE(ipv4.value(QStringLiteral("method")).toString(), QStringLiteral("auto"));
@@ -220,19 +220,19 @@ void TestNetworkManagerClient::interfaceWithoutActiveConnection()
     QFETCH(QString, name);
     QVERIFY(!m_client->managesInterface(name));
     QVERIFY(!m_client->dhcpEnabled(name).has_value());
-    const NetworkResult result = m_client->enableDhcp(name);
-    QCOMPARE(result.code(), int(NetworkResult::NetworkManagerFailed));
-    QVERIFY(result.message().contains(name));
+    const Result result = m_client->enableDhcp(name);
+    QCOMPARE(result.code(), int(HostError::NetworkManagerFailed));
+    QVERIFY(result.text().contains(name));
     QVERIFY(m_manager.changes().isEmpty());
 }
 
 void TestNetworkManagerClient::refusedUpdateIsNotReapplied()
 {
     m_manager.reset(m_initialProfile, true);
-    const NetworkResult result =
+    const Result result =
         m_client->setStaticIpv4(QStringLiteral("gige0"), QHostAddress(QStringLiteral("192.168.5.7")), 24);
-    QCOMPARE(result.code(), int(NetworkResult::NetworkManagerFailed));
-    QVERIFY2(result.message().contains(QStringLiteral("Not authorized to modify")), qPrintable(result.message()));
+    QCOMPARE(result.code(), int(HostError::NetworkManagerFailed));
+    QVERIFY2(result.text().contains(QStringLiteral("Not authorized to modify")), qPrintable(result.text()));
     QCOMPARE(m_manager.changes(), QStringList{QStringLiteral("Update")});
 }
 

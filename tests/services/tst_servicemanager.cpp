@@ -41,7 +41,7 @@ void TestServiceManager::choosesTheSimulatedDriversServices()
 
     QCOMPARE(pvsim_SetServiceRunning("cirro_eth", 0), PV_OK);
     QCOMPARE(int(manager->coreStates().eth), int(CoreStates::NotRunning));
-    QVERIFY(manager->start(QStringLiteral("cirro_eth")).ok);
+    QVERIFY(manager->start(QStringLiteral("cirro_eth")).isSuccess());
     std::int32_t state = 0;
     QCOMPARE(pvsim_GetServiceState("cirro_eth", &state), PV_OK);
     QCOMPARE(state, std::int32_t(CoreStates::Running));

@@ -105,11 +105,11 @@ void TestSimulatedServiceManager::change()
     if (refusal != 0)
         QCOMPARE(pvsim_FailOperation("pvsim_SetServiceRunning", refusal, 1), PV_OK);
 
-    const ServiceManager::Result result = start ? m_manager.start(service) : m_manager.stop(service);
-    QCOMPARE(result.ok, errorText.isEmpty());
-    QCOMPARE(result.errorText.isEmpty(), result.ok);
-    QVERIFY2(result.errorText.contains(errorText) && result.errorText.contains(result.ok ? QString() : service),
-             qPrintable(result.errorText));
+    const Result result = start ? m_manager.start(service) : m_manager.stop(service);
+    QCOMPARE(result.isSuccess(), errorText.isEmpty());
+    QCOMPARE(result.text().isEmpty(), result.isSuccess());
+    QVERIFY2(result.text().contains(errorText) && result.text().contains(result.isSuccess() ? QString() : service),
+             qPrintable(result.text()));
     QTEST(int(m_manager.state(service)), "stateAfter");
 }
 

@@ -238,11 +238,11 @@ void TestSystemdServiceManager::change()
     QFETCH(QString, errorText);
     m_systemd.reset({{QStringLiteral("cirro_eth.service"), unit}});
     const QString service = QStringLiteral("cirro_eth");
-    const ServiceManager::Result result = start ? m_manager->start(service) : m_manager->stop(service);
-    QCOMPARE(result.ok, errorText.isEmpty());
-    QCOMPARE(result.errorText.isEmpty(), result.ok);
-    QVERIFY2(result.errorText.contains(errorText) && result.errorText.contains(result.ok ? QString() : service),
-             qPrintable(result.errorText));
+    const Result result = start ? m_manager->start(service) : m_manager->stop(service);
+    QCOMPARE(result.isSuccess(), errorText.isEmpty());
+    QCOMPARE(result.text().isEmpty(), result.isSuccess());
+    QVERIFY2(result.text().contains(errorText) && result.text().contains(result.isSuccess() ? QString() : service),
+             qPrintable(result.text()));
     QCOMPARE(m_systemd.calls(), QStringList{call});
     QTEST(int(m_manager->state(service)), "stateAfter");
 }
@@ -264,11 +264,11 @@ void TestSystemdServiceManager::unreachableManager()
     {
         SystemdServiceManager manager(QDBusConnection::connectToBus(address, connectionName));
         QCOMPARE(int(manager.state(QStringLiteral("cirro_usb"))), int(CoreStates::NoAccess));
-        for (const ServiceManager::Result& result :
+        for (const Result& result :
              {manager.start(QStringLiteral("cirro_eth")), manager.stop(QStringLiteral("cirro_eth"))}) {
-            QVERIFY(!result.ok);
-            QVERIFY2(result.errorText.contains(QStringLiteral("cirro_eth")) && result.errorText.contains(reason),
-                     qPrintable(result.errorText));
+            QVERIFY(!result.isSuccess());
+            QVERIFY2(result.text().contains(QStringLiteral("cirro_eth")) && result.text().contains(reason),
+                     qPrintable(result.text()));
         }
     }
     QDBusConnection::disconnectFromBus(connectionName);

@@ -334,11 +334,9 @@ void QCirroCameramanager::onIdentifyCamera(const Camera& camera)
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)
 {
-    const std::int32_t result = CameraActions::removeReadOnlyDevice(camera);
-    if (result != PV_OK) {
-        QMessageBox::critical(this, tr("Delete read-only device"),
-                              tr("The read-only device could not be removed.\nReturn code: %1").arg(result));
-    }
+    const Result result = CameraActions::removeReadOnlyDevice(camera);
+    if (!result.isSuccess())
+        QMessageBox::critical(this, tr("Delete read-only device"), result.text());
 }
 
 void QCirroCameramanager::restoreSettings()

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+#include <utility>
+
+// What an operation that can fail reports: success, or a non-zero code with a
+// translated text that says what failed, for the message box of the calling
+// dialog. A refusal of the camera driver carries the camera API's return code;
+// a failure on the host carries one of the HostError codes.
+class Result final
+{
+public:
+    Result() = default; // success
+    Result(int code, QString text)
+        : m_code(code)
+        , m_text(std::move(text))
+    {
+    }
+
+    bool isSuccess() const { return m_code == 0; }
+    int code() const { return m_code; }
+    // Empty on success.
+    QString text() const { return m_text; }
+
+private:
+    int m_code = 0;
+    QString m_text;
+};
+
+// Failures outside the camera driver. The camera API's own codes are -1 and
+// 101 upwards, so the two never meet.
+namespace HostError {
+
+enum Code : int {
+    UnknownInterface = 1,
+    InvalidAddress = 2,
+    InvalidNetmask = 3,
+    PermissionDenied = 4,
+    NotSupported = 5,
+    NetworkManagerFailed = 6,
+    SystemCallFailed = 7,
+    NotWritable = 8,
+    ServiceNotInstalled = 9,
+    ServiceControlFailed = 10,
+};
+
+} // namespace HostError

@@ -1,0 +1,55 @@
+#include "common/versionword.h"
+
+#include <cirro_api.h>
+
+#include <QtTest>
+
+class TestVersionWord : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void texts_data();
+    void texts();
+    void isAtLeast_data();
+    void isAtLeast();
+};
+
+void TestVersionWord::texts_data()
+{
+    QTest::addColumn<quint32>("word");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("padded");
+    QTest::newRow("driver") << PV_VERSION(4, 97, 1203) << "4.97.1203" << "4.97.1203";
+    QTest::newRow("small parts") << PV_VERSION(3, 2, 1) << "3.2.1" << "3.02.0001";
+    QTest::newRow("largest parts") << 0xFFFFFFFFu << "255.255.65535" << "255.255.65535";
+    QTest::newRow("zero") << 0u << "0.0.0" << "0.00.0000";
+}
+
+void TestVersionWord::texts()
+{
+    QFETCH(quint32, word);
+    const VersionWord version(word);
+    QTEST(version.text(), "text");
+    QTEST(version.paddedText(), "padded");
+    QCOMPARE(PV_VERSION(version.major(), version.minor(), version.build()), word);
+}
+
+void TestVersionWord::isAtLeast_data()
+{
+    QTest::addColumn<quint32>("word");
+    QTest::addColumn<bool>("atLeast481");
+    QTest::newRow("4.81") << 0x04510000u << true;
+    QTest::newRow("4.80 with a high build") << 0x0450FFFFu << false;
+    QTest::newRow("5.0") << 0x05000000u << true;
+    QTest::newRow("3.255") << 0x03FF0000u << false;
+}
+
+void TestVersionWord::isAtLeast()
+{
+    QFETCH(quint32, word);
+    QTEST(VersionWord(word).isAtLeast(4, 81), "atLeast481");
+}
+
+QTEST_APPLESS_MAIN(TestVersionWord)
+#include "tst_versionword.moc"
