@@ -6,12 +6,12 @@
 // The application's two translators: its own texts and Qt's. Loading a
 // language installs each translator whose file loads; installing makes every
 // window receive a language-change event.
-class LanguageLoader
+class LanguageLoader final
 {
+    Q_DISABLE_COPY_MOVE(LanguageLoader)
+
 public:
     explicit LanguageLoader(QString directory);
-    LanguageLoader(const LanguageLoader&) = delete;
-    LanguageLoader& operator=(const LanguageLoader&) = delete;
     ~LanguageLoader();
 
     // Nothing when the locale is the current language.

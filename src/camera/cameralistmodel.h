@@ -18,6 +18,7 @@
 class CameraListModel final : public QAbstractTableModel
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CameraListModel)
 
 public:
     using AsyncEvent = ::AsyncEvent;

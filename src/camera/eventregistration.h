@@ -5,7 +5,7 @@
 // One camera-API event, initialised and enabled for the lifetime of the
 // object; disabled and exited when it goes. Move-only; a moved-from
 // registration is all zero and releases nothing.
-class EventRegistration
+class EventRegistration final
 {
 public:
     // Throws CirroException when the driver refuses to initialise or enable.

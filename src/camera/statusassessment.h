@@ -24,7 +24,7 @@ struct StatusAssessment
     static QString fontColoured(const QString& colourName, const QString& text);
 };
 
-class StatusTexts
+class StatusTexts final
 {
     Q_DECLARE_TR_FUNCTIONS(StatusTexts)
 

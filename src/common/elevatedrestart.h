@@ -5,8 +5,10 @@
 
 // Starts this program again with administrator rights, through the platform's
 // authorisation front-end, and reports whether the new instance got them.
-class ElevatedRestart
+class ElevatedRestart final
 {
+    Q_DISABLE_COPY_MOVE(ElevatedRestart)
+
 public:
     // launcher: the authorisation program; empty uses the platform's own.
     explicit ElevatedRestart(QString launcher = QString());

@@ -19,9 +19,10 @@ class Camera;
 // tree's shape is built once per camera; later updates for the same camera only
 // read the values again and report them as changed data, so that a view keeps
 // its expanded rows and its selection.
-class DeviceInfoModel : public QAbstractItemModel
+class DeviceInfoModel final : public QAbstractItemModel
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(DeviceInfoModel)
 
 public:
     // bool: whether a view opens the row when the tree has been built.

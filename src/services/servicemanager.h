@@ -17,6 +17,7 @@
 class ServiceManager
 {
     Q_DECLARE_TR_FUNCTIONS(ServiceManager)
+    Q_DISABLE_COPY_MOVE(ServiceManager)
 
 public:
     // Chooses the manager for the API library this process runs with; call
@@ -24,8 +25,6 @@ public:
     static std::unique_ptr<ServiceManager> create();
 
     ServiceManager() = default;
-    ServiceManager(const ServiceManager&) = delete;
-    ServiceManager& operator=(const ServiceManager&) = delete;
     virtual ~ServiceManager();
 
     virtual CoreStates::State state(const QString& service) const = 0;

@@ -172,7 +172,7 @@ void QCirroCameramanager::makeConnections()
     connect(m_deviceDetails, &DeviceInfoView::updateNeeded, this, &QCirroCameramanager::onDeviceInfoUpdateNeeded);
 }
 
-// One line per command that this build handles; the others keep their buttons
+// One line per handled command; the others keep their buttons
 // and menu entries disabled.
 void QCirroCameramanager::registerCommands()
 {

@@ -20,7 +20,7 @@ namespace Startup {
 
 namespace {
 
-// The driver dialogs of the two options are not part of this build yet.
+// Neither driver dialog exists in this version: say so rather than ignore the option.
 void openRequestedDialog(CommandLine::Dialog dialog)
 {
     if (dialog == CommandLine::Dialog::None)

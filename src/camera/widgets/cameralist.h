@@ -20,6 +20,7 @@ class QTimer;
 class CameraList final : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CameraList)
 
 public:
     // What the context menu needs to know about the host.

@@ -7,9 +7,10 @@
 // The camera table. Besides showing the list it remembers the camera of the
 // current row, restarts that camera on Ctrl+Alt+R and asks for new header
 // texts when the language changes.
-class CameraTableView : public QTableView
+class CameraTableView final : public QTableView
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CameraTableView)
 
 public:
     explicit CameraTableView(QWidget* parent = nullptr);

@@ -8,9 +8,10 @@ class QAction;
 
 // The device details tree of the main window. It opens the rows that matter
 // whenever the tree is built and copies the selected rows' texts on request.
-class DeviceInfoView : public QTreeView
+class DeviceInfoView final : public QTreeView
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(DeviceInfoView)
 
 public:
     explicit DeviceInfoView(QWidget* parent = nullptr);
