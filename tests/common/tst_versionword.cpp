@@ -11,8 +11,6 @@ class TestVersionWord : public QObject
 private slots:
     void texts_data();
     void texts();
-    void isAtLeast_data();
-    void isAtLeast();
 };
 
 void TestVersionWord::texts_data()
@@ -33,22 +31,6 @@ void TestVersionWord::texts()
     QTEST(version.text(), "text");
     QTEST(version.paddedText(), "padded");
     QCOMPARE(PV_VERSION(version.major(), version.minor(), version.build()), word);
-}
-
-void TestVersionWord::isAtLeast_data()
-{
-    QTest::addColumn<quint32>("word");
-    QTest::addColumn<bool>("atLeast481");
-    QTest::newRow("4.81") << 0x04510000u << true;
-    QTest::newRow("4.80 with a high build") << 0x0450FFFFu << false;
-    QTest::newRow("5.0") << 0x05000000u << true;
-    QTest::newRow("3.255") << 0x03FF0000u << false;
-}
-
-void TestVersionWord::isAtLeast()
-{
-    QFETCH(quint32, word);
-    QTEST(VersionWord(word).isAtLeast(4, 81), "atLeast481");
 }
 
 QTEST_APPLESS_MAIN(TestVersionWord)
