@@ -51,6 +51,14 @@ PV_API int32_t PV_CALL pvsim_SetApiVersion(uint32_t version);
  * timeline); 1.0 is real time. */
 PV_API int32_t PV_CALL pvsim_SetTimeScale(double scale);
 
+/* An ARP request on a virtual adapter's network: does a host have targetIp
+ * (dotted text)? 0 when one answers (its MAC written to mac[6]),
+ * PV_ERR_TIMEOUT when nobody answers within the adapter's ARP time-out,
+ * PV_ERR_UNKNOWN_ADAPTER for an adapter that does not exist and
+ * PV_ERR_INVALID_PARAMETER for a target that is not a usable host address of
+ * the adapter's subnet (nothing is asked then). */
+PV_API int32_t PV_CALL pvsim_ArpRequest(const char* adapter, const char* targetIp, uint8_t* mac);
+
 #ifdef __cplusplus
 }
 #endif
