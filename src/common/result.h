@@ -43,6 +43,15 @@ enum Code : int {
     NotWritable = 8,
     ServiceNotInstalled = 9,
     ServiceControlFailed = 10,
+    InterfaceDown = 11,
+    NoAdapterAddress = 12,
+    // An ARP probe refused before anything was sent: the target is not a
+    // usable host address of the adapter's subnet.
+    TargetRefused = 13,
+    // Nobody answered an ARP probe in time. The value is what Windows' SendARP
+    // reports for the same case, and what the free-address search takes as
+    // "free".
+    NoArpReply = 67,
 };
 
 } // namespace HostError

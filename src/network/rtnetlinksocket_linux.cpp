@@ -1,11 +1,14 @@
 #include "network/rtnetlinksocket_linux.h"
 
+#include <linux/neighbour.h>
 #include <linux/netlink.h>
 #include <linux/rtnetlink.h>
 #include <arpa/inet.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -54,9 +57,37 @@ bool readAddress(const ifaddrmsg* message, std::size_t length, quint32* address)
     return found;
 }
 
+// false for anything but an IPv4 entry with a destination.
+bool readNeighbour(const nlmsghdr* header, RtnetlinkSocket::Ipv4Neighbour* neighbour)
+{
+    if (header->nlmsg_len < NLMSG_LENGTH(sizeof(ndmsg)))
+        return false;
+    const auto* message = static_cast<const ndmsg*>(NLMSG_DATA(header));
+    if (message->ndm_family != AF_INET)
+        return false;
+    neighbour->interfaceIndex = message->ndm_ifindex;
+    neighbour->state = header->nlmsg_type == RTM_DELNEIGH ? 0 : message->ndm_state;
+    neighbour->linkAddress.clear();
+    bool hasAddress = false;
+    auto* attribute = reinterpret_cast<const rtattr*>(reinterpret_cast<const char*>(message) + NLMSG_ALIGN(sizeof *message));
+    auto remaining = static_cast<unsigned int>(NLMSG_PAYLOAD(header, sizeof *message));
+    for (; RTA_OK(attribute, remaining); attribute = RTA_NEXT(attribute, remaining)) {
+        if (attribute->rta_type == NDA_DST && RTA_PAYLOAD(attribute) == sizeof(quint32)) {
+            quint32 value = 0;
+            std::memcpy(&value, RTA_DATA(attribute), sizeof value);
+            neighbour->address = ntohl(value);
+            hasAddress = true;
+        } else if (attribute->rta_type == NDA_LLADDR) {
+            neighbour->linkAddress = QByteArray(static_cast<const char*>(RTA_DATA(attribute)),
+                                                int(RTA_PAYLOAD(attribute)));
+        }
+    }
+    return hasAddress;
+}
+
 } // namespace
 
-RtnetlinkSocket::RtnetlinkSocket()
+RtnetlinkSocket::RtnetlinkSocket(Subscription subscription)
 {
     m_fd = ::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_ROUTE);
     if (m_fd < 0) {
@@ -65,6 +96,8 @@ RtnetlinkSocket::RtnetlinkSocket()
     }
     sockaddr_nl local{};
     local.nl_family = AF_NETLINK;
+    if (subscription == Subscription::NeighbourChanges)
+        local.nl_groups = RTMGRP_NEIGH;
     if (::bind(m_fd, reinterpret_cast<sockaddr*>(&local), sizeof local) < 0) {
         m_openError = errno;
         ::close(m_fd);
@@ -91,10 +124,13 @@ int RtnetlinkSocket::ipv4Addresses(int interfaceIndex, QVector<Ipv4Address>* add
     request.message.ifa_family = AF_INET;
     if (const int error = send(&request, request.header.nlmsg_len))
         return error;
-    return receive([&](const ifaddrmsg* message, std::size_t length) {
+    return receive([&](const nlmsghdr* header) {
+        if (header->nlmsg_type != RTM_NEWADDR || header->nlmsg_len < NLMSG_LENGTH(sizeof(ifaddrmsg)))
+            return;
+        const auto* message = static_cast<const ifaddrmsg*>(NLMSG_DATA(header));
         Ipv4Address entry;
         if (message->ifa_family == AF_INET && int(message->ifa_index) == interfaceIndex
-            && readAddress(message, length, &entry.address)) {
+            && readAddress(message, NLMSG_PAYLOAD(header, 0), &entry.address)) {
             entry.prefixLength = message->ifa_prefixlen;
             addresses->append(entry);
         }
@@ -128,7 +164,57 @@ int RtnetlinkSocket::changeIpv4(int type, int flags, int interfaceIndex, const I
         appendAttribute(&request.header, IFA_BROADCAST, htonl(address.address | ~netmask(address.prefixLength)));
     if (const int error = send(&request, request.header.nlmsg_len))
         return error;
-    return receive([](const ifaddrmsg*, std::size_t) {});
+    return receive([](const nlmsghdr*) {});
+}
+
+int RtnetlinkSocket::ipv4Neighbours(int interfaceIndex, QVector<Ipv4Neighbour>* neighbours)
+{
+    struct
+    {
+        nlmsghdr header;
+        ndmsg message;
+    } request{};
+    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
+    request.header.nlmsg_type = RTM_GETNEIGH;
+    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    request.message.ndm_family = AF_INET;
+    if (const int error = send(&request, request.header.nlmsg_len))
+        return error;
+    return receive([&](const nlmsghdr* header) {
+        Ipv4Neighbour entry;
+        if (header->nlmsg_type == RTM_NEWNEIGH && readNeighbour(header, &entry)
+            && entry.interfaceIndex == interfaceIndex)
+            neighbours->append(entry);
+    });
+}
+
+int RtnetlinkSocket::waitForNeighbourChanges(std::chrono::milliseconds timeout, QVector<Ipv4Neighbour>* changes)
+{
+    if (m_fd < 0)
+        return m_openError;
+    pollfd ready{m_fd, POLLIN, 0};
+    const int count = ::poll(&ready, 1, int(std::max<std::chrono::milliseconds::rep>(timeout.count(), 0)));
+    if (count < 0)
+        return errno == EINTR ? 0 : errno;
+    if (count == 0)
+        return 0;
+    alignas(nlmsghdr) char buffer[32768];
+    for (;;) {
+        const ssize_t received = ::recv(m_fd, buffer, sizeof buffer, MSG_DONTWAIT);
+        if (received < 0) {
+            if (errno == EINTR)
+                continue;
+            return errno == EAGAIN || errno == EWOULDBLOCK ? 0 : errno;
+        }
+        auto remaining = static_cast<unsigned int>(received);
+        for (auto* header = reinterpret_cast<nlmsghdr*>(buffer); NLMSG_OK(header, remaining);
+             header = NLMSG_NEXT(header, remaining)) {
+            Ipv4Neighbour entry;
+            if ((header->nlmsg_type == RTM_NEWNEIGH || header->nlmsg_type == RTM_DELNEIGH)
+                && readNeighbour(header, &entry))
+                changes->append(entry);
+        }
+    }
 }
 
 int RtnetlinkSocket::send(const void* message, std::size_t size)
@@ -143,8 +229,8 @@ int RtnetlinkSocket::send(const void* message, std::size_t size)
     return sent < 0 ? errno : 0;
 }
 
-template<typename OnAddress>
-int RtnetlinkSocket::receive(OnAddress onAddress)
+template<typename OnMessage>
+int RtnetlinkSocket::receive(OnMessage onMessage)
 {
     alignas(nlmsghdr) char buffer[32768];
     for (;;) {
@@ -165,8 +251,7 @@ int RtnetlinkSocket::receive(OnAddress onAddress)
                 const auto* error = static_cast<const nlmsgerr*>(NLMSG_DATA(header));
                 return -error->error;
             }
-            if (header->nlmsg_type == RTM_NEWADDR)
-                onAddress(static_cast<const ifaddrmsg*>(NLMSG_DATA(header)), NLMSG_PAYLOAD(header, 0));
+            onMessage(header);
         }
     }
 }

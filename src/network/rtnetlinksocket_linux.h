@@ -1,12 +1,17 @@
 #pragma once
 
+#include <QByteArray>
 #include <QVector>
 
+#include <chrono>
 #include <cstdint>
 
-// IPv4 addresses of an interface through a NETLINK_ROUTE socket. Changes need
-// CAP_NET_ADMIN in the socket's network namespace. Functions return 0 or an
-// errno value.
+struct nlmsghdr;
+
+// IPv4 addresses and neighbour entries of an interface through a
+// NETLINK_ROUTE socket. Changes need CAP_NET_ADMIN in the socket's network
+// namespace; reading and listening do not. Functions return 0 or an errno
+// value.
 class RtnetlinkSocket final
 {
 public:
@@ -17,7 +22,20 @@ public:
         int prefixLength = 0;
     };
 
-    RtnetlinkSocket();
+    struct Ipv4Neighbour
+    {
+        int interfaceIndex = 0;
+        // Host order.
+        quint32 address = 0;
+        // NUD_* bits; 0 for an entry that the kernel removed.
+        quint16 state = 0;
+        // Empty while the kernel has none.
+        QByteArray linkAddress;
+    };
+
+    enum class Subscription { None, NeighbourChanges };
+
+    explicit RtnetlinkSocket(Subscription subscription = Subscription::None);
     ~RtnetlinkSocket();
     Q_DISABLE_COPY_MOVE(RtnetlinkSocket)
 
@@ -30,13 +48,20 @@ public:
     int addIpv4(int interfaceIndex, const Ipv4Address& address);
     int deleteIpv4(int interfaceIndex, const Ipv4Address& address);
 
+    int ipv4Neighbours(int interfaceIndex, QVector<Ipv4Neighbour>* neighbours);
+    // On a socket opened with Subscription::NeighbourChanges: waits up to
+    // timeout for the kernel's next notifications and appends the IPv4 ones,
+    // in their order; none when the time passes. ENOBUFS means that
+    // notifications were lost and the table needs reading again.
+    int waitForNeighbourChanges(std::chrono::milliseconds timeout, QVector<Ipv4Neighbour>* changes);
+
 private:
     int changeIpv4(int type, int flags, int interfaceIndex, const Ipv4Address& address);
     int send(const void* message, std::size_t size);
     // Reads replies to the last request until its acknowledgement or the end
-    // of a dump; each address message is handed to onAddress.
-    template<typename OnAddress>
-    int receive(OnAddress onAddress);
+    // of a dump; each other message is handed to onMessage.
+    template<typename OnMessage>
+    int receive(OnMessage onMessage);
 
     int m_fd = -1;
     int m_openError = 0;
