@@ -2,6 +2,8 @@
 #include "words.h"
 
 #include <cstring>
+#include <optional>
+#include <thread>
 
 namespace sim::ops {
 
@@ -336,6 +338,43 @@ Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* ma
             return r;
         return ipCommand(fleet, target, command, block);
     });
+}
+
+Result arpRequest(SimDriver& driver, const char* adapterName, const char* targetIp, std::uint8_t* mac)
+{
+    if (!adapterName || !targetIp || !mac)
+        return failure(PV_ERR_INVALID_PARAMETER, "pvsim_ArpRequest: adapter, target and MAC must not be null");
+    const std::string adapterText(adapterName);
+    const std::string targetText(targetIp);
+    std::optional<MacAddress> answer;
+    std::chrono::milliseconds timeout{0};
+    const Result asked = driver.read([&](Fleet& fleet) {
+        const SimAdapter* adapter = fleet.adapter(adapterText);
+        if (!adapter)
+            return failure(PV_ERR_UNKNOWN_ADAPTER, "pvsim_ArpRequest: no adapter named \"" + adapterText + "\"");
+        const auto target = NetAddress::parseIp(targetText);
+        if (!target)
+            return failure(PV_ERR_INVALID_PARAMETER,
+                           "pvsim_ArpRequest: \"" + targetText + "\" is not an IPv4 address");
+        if (!NetAddress::isHostOf(*target, adapter->ip, adapter->mask))
+            return failure(PV_ERR_INVALID_PARAMETER,
+                           "pvsim_ArpRequest: " + targetText + " is not a host address of " + adapterText
+                               + "'s subnet " + NetAddress::formatIp(adapter->ip & adapter->mask) + "/"
+                               + NetAddress::formatIp(adapter->mask));
+        answer = fleet.arpAnswer(*adapter, *target);
+        timeout = std::chrono::milliseconds(fleet.settings.arpTimeoutMs);
+        return success();
+    });
+    if (!asked.ok())
+        return asked;
+    if (answer) {
+        std::memcpy(mac, answer->data(), answer->size());
+        return success();
+    }
+    // Nobody answers: the request waits out its time-out, without the driver's lock.
+    std::this_thread::sleep_for(driver.scaled(timeout));
+    return failure(PV_ERR_TIMEOUT, "pvsim_ArpRequest: nobody on " + adapterText + " answered for " + targetText
+                                       + " within " + std::to_string(timeout.count()) + " ms");
 }
 
 Result ethConfig(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* buffer, std::uint32_t size)

@@ -48,6 +48,9 @@ QJsonObject cameraReport(const SimCamera& camera, bool visible)
 
 QJsonObject adapterReport(const SimAdapter& adapter)
 {
+    QJsonArray hosts;
+    for (const SimAdapter::HostRange& range : adapter.hosts)
+        hosts.append(range.first == range.last ? ip(range.first) : ip(range.first) + '-' + ip(range.last));
     return QJsonObject{
         {"name", QString::fromStdString(adapter.name)},
         {"mac", QString::fromStdString(NetAddress::formatMac(adapter.mac))},
@@ -60,6 +63,7 @@ QJsonObject adapterReport(const SimAdapter& adapter)
         {"packetFilter", adapter.packetFilter},
         {"rangeBegin", ip(adapter.rangeBegin)},
         {"rangeEnd", ip(adapter.rangeEnd)},
+        {"hosts", hosts},
     };
 }
 
@@ -74,6 +78,7 @@ QJsonObject settingsReport(const DriverSettings& settings)
     return QJsonObject{
         {"apiVersion", QStringLiteral("%1.%2").arg(PV_VERSION_MAJOR(settings.apiVersion)).arg(PV_VERSION_MINOR(settings.apiVersion))},
         {"starterImage", version(settings.starterImage)},
+        {"arpTimeoutMs", qint64(settings.arpTimeoutMs)},
         {"bootBoost", settings.bootBoostEnabled},
         {"bootBoostIds", ids},
         {"idleState", qint64(settings.idleState)},
