@@ -3,12 +3,15 @@
 // service and its adapter bindings, and how each change shows in the cameras.
 #include "simdriverfixture.h"
 
+#include <QElapsedTimer>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <array>
+#include <atomic>
 #include <set>
+#include <thread>
 
 using namespace SimDriverFixture;
 
@@ -116,6 +119,14 @@ private slots:
     void adapterFramesTooSmallForJumboPackets();
     void stoppedServiceHidesGigE();
     void unboundAdapterHidesItsCameras();
+    void arpAnswers_data();
+    void arpAnswers();
+    void arpWaitsOnlyWhenNobodyAnswers_data();
+    void arpWaitsOnlyWhenNobodyAnswers();
+    void arpWaitLeavesTheDriverFree();
+    void rebootingCameraDoesNotAnswerArp();
+    void otherHostsAnswerAndHoldTheirAddresses_data();
+    void otherHostsAnswerAndHoldTheirAddresses();
 
 private:
     EmptyConfigRoot m_emptyConfig;
@@ -548,9 +559,164 @@ void TestSimEthernet::unboundAdapterHidesItsCameras()
     QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block),
              PV_ERR_UNKNOWN_DEVICE);
 
+    // Off the driver's network the cameras don't answer; the adapter itself does.
+    QByteArray mac;
+    QCOMPARE(arp("simnet0", "192.168.50.10"), PV_ERR_TIMEOUT);
+    QCOMPARE(arp("simnet0", "192.168.50.1", &mac), PV_OK);
+    QCOMPARE(mac, QByteArray::fromHex("02c15e000001"));
+
     writeIni(ini, "Bindings/simnet0", true);
     QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0), PV_OK);
     QCOMPARE(listedIds(), before);
+    QCOMPARE(arp("simnet0", "192.168.50.10", &mac), PV_OK);
+    QCOMPARE(mac, QByteArray::fromHex("001cc1000010"));
+}
+
+void TestSimEthernet::arpAnswers_data()
+{
+    QTest::addColumn<QByteArray>("adapter");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QByteArray>("mac");
+
+    auto row = [](const char* name, const char* adapter, const char* target, const char* mac) {
+        QTest::newRow(name) << QByteArray(adapter) << QByteArray(target) << QByteArray::fromHex(mac);
+    };
+    row("the adapter itself", "simnet0", "192.168.50.1", "02c15e000001");
+    row("another adapter itself", "simnet1", "192.168.60.1", "02c15e000002");
+    row("camera with a persistent IP", "simnet0", "192.168.50.10", "001cc1000010");
+    row("camera with a range address", "simnet0", "192.168.50.100", "001cc1000017");
+    row("camera paired with another host", "simnet0", "192.168.50.13", "001cc1000013");
+    row("camera on another adapter", "simnet1", "192.168.60.15", "001cc1000015");
+    row("camera that can't be reached for packet size", "simnet2", "192.168.70.16", "001cc1000016");
+    row("first other host", "simnet0", "192.168.50.2", "0200c0a83202");
+    row("last other host", "simnet0", "192.168.50.9", "0200c0a83209");
+}
+
+void TestSimEthernet::arpAnswers()
+{
+    QFETCH(QByteArray, adapter);
+    QFETCH(QByteArray, target);
+    QFETCH(QByteArray, mac);
+
+    QByteArray answer;
+    QCOMPARE(arp(adapter.constData(), target.constData(), &answer), PV_OK);
+    QCOMPARE(answer.toHex(':'), mac.toHex(':'));
+}
+
+void TestSimEthernet::arpWaitsOnlyWhenNobodyAnswers_data()
+{
+    QTest::addColumn<QByteArray>("adapter");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<std::int32_t>("code");
+
+    QTest::newRow("free address") << QByteArray("simnet0") << QByteArray("192.168.50.77")
+                                  << std::int32_t(PV_ERR_TIMEOUT);
+    QTest::newRow("just past the other hosts") << QByteArray("simnet0") << QByteArray("192.168.50.11")
+                                               << std::int32_t(PV_ERR_TIMEOUT);
+    QTest::newRow("answered") << QByteArray("simnet0") << QByteArray("192.168.50.10") << std::int32_t(PV_OK);
+    QTest::newRow("other host") << QByteArray("simnet0") << QByteArray("192.168.50.5") << std::int32_t(PV_OK);
+    QTest::newRow("outside the subnet") << QByteArray("simnet0") << QByteArray("10.0.0.11")
+                                        << std::int32_t(PV_ERR_INVALID_PARAMETER);
+    QTest::newRow("unknown adapter") << QByteArray("simnet7") << QByteArray("192.168.50.77")
+                                     << std::int32_t(PV_ERR_UNKNOWN_ADAPTER);
+}
+
+void TestSimEthernet::arpWaitsOnlyWhenNobodyAnswers()
+{
+    QFETCH(QByteArray, adapter);
+    QFETCH(QByteArray, target);
+    QFETCH(std::int32_t, code);
+
+    // The default ARP time-out of 1 s, scaled to 300 ms.
+    QCOMPARE(pvsim_SetTimeScale(0.3), PV_OK);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(arp(adapter.constData(), target.constData()), code);
+    const qint64 elapsed = timer.elapsed();
+    if (code == PV_ERR_TIMEOUT) {
+        QVERIFY2(elapsed >= 300, qPrintable(QString::number(elapsed)));
+        QVERIFY2(elapsed < 3000, qPrintable(QString::number(elapsed)));
+        QVERIFY(lastErrorText().contains(target));
+    } else {
+        QVERIFY2(elapsed < 300, qPrintable(QString::number(elapsed)));
+    }
+}
+
+void TestSimEthernet::arpWaitLeavesTheDriverFree()
+{
+    QCOMPARE(pvsim_SetTimeScale(1.0), PV_OK);
+    std::atomic<bool> waiting{true};
+    std::int32_t result = -1;
+    std::thread asker([&] {
+        result = arp("simnet0", "192.168.50.77");
+        waiting = false;
+    });
+    int calls = 0;
+    while (waiting && calls < 50) {
+        QByteArray mac;
+        QCOMPARE(arp("simnet0", "192.168.50.10", &mac), PV_OK);
+        QCOMPARE(int(list().size()), 17);
+        ++calls;
+    }
+    asker.join();
+    QCOMPARE(result, PV_ERR_TIMEOUT);
+    QCOMPARE(calls, 50); // all done while the request still waited
+}
+
+void TestSimEthernet::rebootingCameraDoesNotAnswerArp()
+{
+    QCOMPARE(pvsim_SetTimeScale(1.0), PV_OK); // the reboot takes 3 s
+    QCOMPARE(pv_RebootDevice(gigeCamera | PV_DEVICE_ID_FLAG, 0), PV_OK);
+    QCOMPARE(pvsim_SetTimeScale(0.001), PV_OK);
+    QVERIFY(cameraState(gigeCamera).value("rebooting").toBool());
+    QCOMPARE(arp("simnet0", "192.168.50.10"), PV_ERR_TIMEOUT);
+}
+
+void TestSimEthernet::otherHostsAnswerAndHoldTheirAddresses_data()
+{
+    QTest::addColumn<QByteArray>("hosts");
+    QTest::addColumn<QByteArray>("answering");
+    QTest::addColumn<QByteArray>("rangeAddress");
+
+    QTest::newRow("none") << QByteArray("[]") << QByteArray() << QByteArray("10.9.0.10");
+    QTest::newRow("one address below the range") << QByteArray(R"(["10.9.0.5"])") << QByteArray("10.9.0.5")
+                                                 << QByteArray("10.9.0.10");
+    QTest::newRow("range over the range's start") << QByteArray(R"(["10.9.0.8-10.9.0.12"])")
+                                                  << QByteArray("10.9.0.12") << QByteArray("10.9.0.13");
+    QTest::newRow("address and one-address range") << QByteArray(R"(["10.9.0.10", "10.9.0.11-10.9.0.11"])")
+                                                   << QByteArray("10.9.0.11") << QByteArray("10.9.0.12");
+    QTest::newRow("the whole range") << QByteArray(R"(["10.9.0.10-10.9.0.20"])") << QByteArray("10.9.0.20")
+                                     << QByteArray("0.0.0.0");
+}
+
+void TestSimEthernet::otherHostsAnswerAndHoldTheirAddresses()
+{
+    QFETCH(QByteArray, hosts);
+    QFETCH(QByteArray, answering);
+    QFETCH(QByteArray, rangeAddress);
+
+    const QByteArray scenario = R"({"adapters": [{"name": "test0", "mac": "02:00:00:00:09:01", "ip": "10.9.0.1",
+        "mask": "255.255.255.0", "rangeBegin": "10.9.0.10", "rangeEnd": "10.9.0.20", "hosts": )"
+                                + hosts + R"(}],
+        "cameras": [{"kind": "eth", "adapter": "test0", "mac": "00:1c:c1:00:09:01"}]})";
+    QCOMPARE(pvsim_LoadScenarioText(scenario.constData()), PV_OK);
+
+    const QJsonObject camera = cameraState(PV_ETH_DEVICE_FIRST);
+    QCOMPARE(camera.value("currentIp").toString().toLatin1(), rangeAddress);
+    if (!answering.isEmpty()) {
+        const QList<QByteArray> octets = answering.split('.');
+        QByteArray expected = QByteArray::fromHex("0200");
+        for (const QByteArray& octet : octets)
+            expected.append(char(octet.toInt()));
+        QByteArray mac;
+        QCOMPARE(arp("test0", answering.constData(), &mac), PV_OK);
+        QCOMPARE(mac.toHex(':'), expected.toHex(':'));
+    }
+    if (rangeAddress != "0.0.0.0") {
+        QByteArray mac;
+        QCOMPARE(arp("test0", rangeAddress.constData(), &mac), PV_OK);
+        QCOMPARE(mac, QByteArray::fromHex("001cc1000901"));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSimEthernet)
