@@ -1,6 +1,7 @@
 #include "operations.h"
 #include "words.h"
 
+#include <atomic>
 #include <cstring>
 #include <optional>
 #include <thread>
@@ -319,6 +320,54 @@ Result adapterCommand(Fleet& fleet, SimAdapter& adapter, bool set, std::uint32_t
     return failure(PV_ERR_UNKNOWN_COMMAND, "pv_EthAdapterConfig: unknown command " + std::to_string(command));
 }
 
+bool isIpWrite(std::uint32_t command)
+{
+    return command == PV_IPCFG_SET_PERSISTENT || command == PV_IPCFG_SET_DHCP || command == PV_IPCFG_SET_RANGE;
+}
+
+std::map<std::uint32_t, std::uint32_t> targetAddresses(const Fleet& fleet)
+{
+    std::map<std::uint32_t, std::uint32_t> targets;
+    for (const auto& [id, camera] : fleet.cameras()) {
+        if (camera.kind == CameraKind::Eth)
+            targets.emplace(id, camera.targetIp);
+    }
+    return targets;
+}
+
+void endIpChange(SimDriver& driver, std::uint32_t deviceId, std::uint64_t change)
+{
+    driver.change([&](Fleet& fleet) {
+        SimCamera* camera = fleet.any(deviceId);
+        if (camera && camera->ipChanging && camera->ipChange == change)
+            camera->ipChanging = false;
+        return success();
+    });
+}
+
+// Every camera whose address a write moved (or took away, or gave) tests its
+// new setting for a while; a camera already testing starts over.
+void startIpChanges(SimDriver& driver, Fleet& fleet, const std::map<std::uint32_t, std::uint32_t>& before)
+{
+    // Counts across scenario loads, so that the end of a change never finishes a later one.
+    static std::atomic<std::uint64_t> lastChange{0};
+    const std::chrono::milliseconds duration(fleet.settings.ipChangeMs);
+    if (duration.count() == 0)
+        return;
+    fleet.recompute();
+    for (const auto& [id, target] : targetAddresses(fleet)) {
+        const auto old = before.find(id);
+        if (old == before.end() || old->second == target)
+            continue;
+        SimCamera* camera = fleet.any(id);
+        camera->ipChanging = true;
+        camera->ipChange = ++lastChange;
+        driver.scheduler().schedule(driver.scaled(duration), [&driver, id = id, change = camera->ipChange] {
+            endIpChange(driver, id, change);
+        });
+    }
+}
+
 } // namespace
 
 Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* mac, std::uint32_t command,
@@ -336,7 +385,13 @@ Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* ma
         IpTarget target;
         if (Result r = findIpTarget(fleet, deviceId, mac, command, target); !r.ok())
             return r;
-        return ipCommand(fleet, target, command, block);
+        if (!isIpWrite(command))
+            return ipCommand(fleet, target, command, block);
+        const auto before = targetAddresses(fleet);
+        Result result = ipCommand(fleet, target, command, block);
+        if (result.ok())
+            startIpChanges(driver, fleet, before);
+        return result;
     });
 }
 

@@ -175,10 +175,10 @@ std::uint32_t Fleet::knownDevicesOn(const std::string& adapterName) const
     return count;
 }
 
-// Cameras without a persistent address keep the range address they have, as
-// long as it stays in the range and nobody else uses it; the others take the
-// free addresses of their adapter's range in device ID order. Other hosts on
-// the adapter's network hold their addresses too.
+// Cameras without a persistent address keep the range address they have (or
+// are moving to), as long as it stays in the range and nobody else uses it;
+// the others take the free addresses of their adapter's range in device ID
+// order. Other hosts on the adapter's network hold their addresses too.
 std::map<std::uint32_t, std::uint32_t> Fleet::assignRangeAddresses() const
 {
     std::map<std::uint32_t, std::uint32_t> assigned;
@@ -194,7 +194,7 @@ std::map<std::uint32_t, std::uint32_t> Fleet::assignRangeAddresses() const
         for (const auto& [id, camera] : m_cameras) {
             if (camera.kind != CameraKind::Eth || camera.adapterName != a.name || camera.persistentIp != 0)
                 continue;
-            const std::uint32_t kept = camera.currentIp;
+            const std::uint32_t kept = camera.targetIp;
             if (kept >= a.rangeBegin && kept <= a.rangeEnd && !a.isOtherHost(kept) && taken.insert(kept).second)
                 assigned[id] = kept;
             else
