@@ -187,6 +187,8 @@ void TestSimScenario::rejectedScenarioKeepsTheFleet_data()
     row("timeline event in the past", R"({"timeline": [{"afterMs": -5, "unplug": "U1"}]})", "afterMs");
     row("ARP time-out of 0", R"({"driver": {"arpTimeoutMs": 0}})", "arpTimeoutMs");
     row("ARP time-out as text", R"({"driver": {"arpTimeoutMs": "1000"}})", "arpTimeoutMs");
+    row("IP change above a minute", R"({"driver": {"ipChangeMs": 60001}})", "ipChangeMs");
+    row("IP change negative", R"({"driver": {"ipChangeMs": -1}})", "ipChangeMs");
 
     // Other hosts on an adapter's network, 10.9.0.0/24 unless the row says otherwise.
     auto hostsRow = [&row](const char* name, const char* hosts, const char* mentions,
