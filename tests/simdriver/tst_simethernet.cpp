@@ -621,7 +621,6 @@ void TestSimEthernet::arpAnswers_data()
         QTest::newRow(name) << QByteArray(adapter) << QByteArray(target) << QByteArray::fromHex(mac);
     };
     row("the adapter itself", "simnet0", "192.168.50.1", "02c15e000001");
-    row("another adapter itself", "simnet1", "192.168.60.1", "02c15e000002");
     row("camera with a persistent IP", "simnet0", "192.168.50.10", "001cc1000010");
     row("camera with a range address", "simnet0", "192.168.50.100", "001cc1000017");
     row("camera paired with another host", "simnet0", "192.168.50.13", "001cc1000013");
@@ -650,8 +649,6 @@ void TestSimEthernet::arpWaitsOnlyWhenNobodyAnswers_data()
 
     QTest::newRow("free address") << QByteArray("simnet0") << QByteArray("192.168.50.77")
                                   << std::int32_t(PV_ERR_TIMEOUT);
-    QTest::newRow("just past the other hosts") << QByteArray("simnet0") << QByteArray("192.168.50.11")
-                                               << std::int32_t(PV_ERR_TIMEOUT);
     QTest::newRow("answered") << QByteArray("simnet0") << QByteArray("192.168.50.10") << std::int32_t(PV_OK);
     QTest::newRow("other host") << QByteArray("simnet0") << QByteArray("192.168.50.5") << std::int32_t(PV_OK);
     QTest::newRow("outside the subnet") << QByteArray("simnet0") << QByteArray("10.0.0.11")
@@ -722,8 +719,6 @@ void TestSimEthernet::otherHostsAnswerAndHoldTheirAddresses_data()
                                                  << QByteArray("10.9.0.10");
     QTest::newRow("range over the range's start") << QByteArray(R"(["10.9.0.8-10.9.0.12"])")
                                                   << QByteArray("10.9.0.12") << QByteArray("10.9.0.13");
-    QTest::newRow("address and one-address range") << QByteArray(R"(["10.9.0.10", "10.9.0.11-10.9.0.11"])")
-                                                   << QByteArray("10.9.0.11") << QByteArray("10.9.0.12");
     QTest::newRow("the whole range") << QByteArray(R"(["10.9.0.10-10.9.0.20"])") << QByteArray("10.9.0.20")
                                      << QByteArray("0.0.0.0");
 }
