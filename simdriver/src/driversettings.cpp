@@ -40,6 +40,8 @@ Result DriverSettings::apply(const QJsonObject& json)
     reader.readVersion("minStarter", minStarter);
     reader.readVersion("maxStarter", maxStarter);
     reader.readInt("heartbeatPeriodMs", heartbeatPeriodMs, 10, 60000);
+    reader.readInt("arpTimeoutMs", arpTimeoutMs, 1, 10000);
+    reader.readInt("ipChangeMs", ipChangeMs, 0, 60000);
     reader.read("bootBoost", bootBoostEnabled);
     std::vector<std::uint32_t> ids(bootBoostIds.begin(), bootBoostIds.end());
     reader.readIntList("bootBoostIds", ids, 1, 254);

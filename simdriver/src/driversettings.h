@@ -20,6 +20,8 @@ struct DriverSettings
     std::uint32_t minStarter = PV_VERSION(3, 0, 0);
     std::uint32_t maxStarter = PV_VERSION(3, 9, 9999);
     std::uint32_t heartbeatPeriodMs = 1000;
+    std::uint32_t arpTimeoutMs = 1000; // how long an ARP request waits for an answer
+    std::uint32_t ipChangeMs = 1500;   // how long a camera takes to change its address; 0: at once
 
     bool bootBoostEnabled = false;
     std::set<std::uint8_t> bootBoostIds;

@@ -1,7 +1,10 @@
 #include "operations.h"
 #include "words.h"
 
+#include <atomic>
 #include <cstring>
+#include <optional>
+#include <thread>
 
 namespace sim::ops {
 
@@ -317,6 +320,54 @@ Result adapterCommand(Fleet& fleet, SimAdapter& adapter, bool set, std::uint32_t
     return failure(PV_ERR_UNKNOWN_COMMAND, "pv_EthAdapterConfig: unknown command " + std::to_string(command));
 }
 
+bool isIpWrite(std::uint32_t command)
+{
+    return command == PV_IPCFG_SET_PERSISTENT || command == PV_IPCFG_SET_DHCP || command == PV_IPCFG_SET_RANGE;
+}
+
+std::map<std::uint32_t, std::uint32_t> targetAddresses(const Fleet& fleet)
+{
+    std::map<std::uint32_t, std::uint32_t> targets;
+    for (const auto& [id, camera] : fleet.cameras()) {
+        if (camera.kind == CameraKind::Eth)
+            targets.emplace(id, camera.targetIp);
+    }
+    return targets;
+}
+
+void endIpChange(SimDriver& driver, std::uint32_t deviceId, std::uint64_t change)
+{
+    driver.change([&](Fleet& fleet) {
+        SimCamera* camera = fleet.any(deviceId);
+        if (camera && camera->ipChanging && camera->ipChange == change)
+            camera->ipChanging = false;
+        return success();
+    });
+}
+
+// Every camera whose address a write moved (or took away, or gave) tests its
+// new setting for a while; a camera already testing starts over.
+void startIpChanges(SimDriver& driver, Fleet& fleet, const std::map<std::uint32_t, std::uint32_t>& before)
+{
+    // Counts across scenario loads, so that the end of a change never finishes a later one.
+    static std::atomic<std::uint64_t> lastChange{0};
+    const std::chrono::milliseconds duration(fleet.settings.ipChangeMs);
+    if (duration.count() == 0)
+        return;
+    fleet.recompute();
+    for (const auto& [id, target] : targetAddresses(fleet)) {
+        const auto old = before.find(id);
+        if (old == before.end() || old->second == target)
+            continue;
+        SimCamera* camera = fleet.any(id);
+        camera->ipChanging = true;
+        camera->ipChange = ++lastChange;
+        driver.scheduler().schedule(driver.scaled(duration), [&driver, id = id, change = camera->ipChange] {
+            endIpChange(driver, id, change);
+        });
+    }
+}
+
 } // namespace
 
 Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* mac, std::uint32_t command,
@@ -334,8 +385,51 @@ Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* ma
         IpTarget target;
         if (Result r = findIpTarget(fleet, deviceId, mac, command, target); !r.ok())
             return r;
-        return ipCommand(fleet, target, command, block);
+        if (!isIpWrite(command))
+            return ipCommand(fleet, target, command, block);
+        const auto before = targetAddresses(fleet);
+        Result result = ipCommand(fleet, target, command, block);
+        if (result.ok())
+            startIpChanges(driver, fleet, before);
+        return result;
     });
+}
+
+Result arpRequest(SimDriver& driver, const char* adapterName, const char* targetIp, std::uint8_t* mac)
+{
+    if (!adapterName || !targetIp || !mac)
+        return failure(PV_ERR_INVALID_PARAMETER, "pvsim_ArpRequest: adapter, target and MAC must not be null");
+    const std::string adapterText(adapterName);
+    const std::string targetText(targetIp);
+    std::optional<MacAddress> answer;
+    std::chrono::milliseconds timeout{0};
+    const Result asked = driver.read([&](Fleet& fleet) {
+        const SimAdapter* adapter = fleet.adapter(adapterText);
+        if (!adapter)
+            return failure(PV_ERR_UNKNOWN_ADAPTER, "pvsim_ArpRequest: no adapter named \"" + adapterText + "\"");
+        const auto target = NetAddress::parseIp(targetText);
+        if (!target)
+            return failure(PV_ERR_INVALID_PARAMETER,
+                           "pvsim_ArpRequest: \"" + targetText + "\" is not an IPv4 address");
+        if (!NetAddress::isHostOf(*target, adapter->ip, adapter->mask))
+            return failure(PV_ERR_INVALID_PARAMETER,
+                           "pvsim_ArpRequest: " + targetText + " is not a host address of " + adapterText
+                               + "'s subnet " + NetAddress::formatIp(adapter->ip & adapter->mask) + "/"
+                               + NetAddress::formatIp(adapter->mask));
+        answer = fleet.arpAnswer(*adapter, *target);
+        timeout = std::chrono::milliseconds(fleet.settings.arpTimeoutMs);
+        return success();
+    });
+    if (!asked.ok())
+        return asked;
+    if (answer) {
+        std::memcpy(mac, answer->data(), answer->size());
+        return success();
+    }
+    // Nobody answers: the request waits out its time-out, without the driver's lock.
+    std::this_thread::sleep_for(driver.scaled(timeout));
+    return failure(PV_ERR_TIMEOUT, "pvsim_ArpRequest: nobody on " + adapterText + " answered for " + targetText
+                                       + " within " + std::to_string(timeout.count()) + " ms");
 }
 
 Result ethConfig(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* buffer, std::uint32_t size)

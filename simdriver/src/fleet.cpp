@@ -151,6 +151,20 @@ SimAdapter* Fleet::adapterByMac(const MacAddress& mac)
     return it == adapters.end() ? nullptr : &*it;
 }
 
+std::optional<MacAddress> Fleet::arpAnswer(const SimAdapter& on, std::uint32_t address) const
+{
+    if (address == on.ip)
+        return on.mac;
+    for (const auto& [id, camera] : m_cameras) {
+        if (camera.kind == CameraKind::Eth && camera.adapterName == on.name && camera.currentIp == address
+            && isVisible(camera))
+            return camera.mac;
+    }
+    if (on.isOtherHost(address))
+        return SimAdapter::otherHostMac(address);
+    return std::nullopt;
+}
+
 std::uint32_t Fleet::knownDevicesOn(const std::string& adapterName) const
 {
     std::uint32_t count = 0;
@@ -161,9 +175,10 @@ std::uint32_t Fleet::knownDevicesOn(const std::string& adapterName) const
     return count;
 }
 
-// Cameras without a persistent address keep the range address they have, as
-// long as it stays in the range and nobody else uses it; the others take the
-// free addresses of their adapter's range in device ID order.
+// Cameras without a persistent address keep the range address they have (or
+// are moving to), as long as it stays in the range and nobody else uses it;
+// the others take the free addresses of their adapter's range in device ID
+// order. Other hosts on the adapter's network hold their addresses too.
 std::map<std::uint32_t, std::uint32_t> Fleet::assignRangeAddresses() const
 {
     std::map<std::uint32_t, std::uint32_t> assigned;
@@ -179,15 +194,15 @@ std::map<std::uint32_t, std::uint32_t> Fleet::assignRangeAddresses() const
         for (const auto& [id, camera] : m_cameras) {
             if (camera.kind != CameraKind::Eth || camera.adapterName != a.name || camera.persistentIp != 0)
                 continue;
-            const std::uint32_t kept = camera.currentIp;
-            if (kept >= a.rangeBegin && kept <= a.rangeEnd && taken.insert(kept).second)
+            const std::uint32_t kept = camera.targetIp;
+            if (kept >= a.rangeBegin && kept <= a.rangeEnd && !a.isOtherHost(kept) && taken.insert(kept).second)
                 assigned[id] = kept;
             else
                 waiting.push_back(&camera);
         }
         std::uint32_t next = a.rangeBegin;
         for (const SimCamera* camera : waiting) {
-            while (next <= a.rangeEnd && taken.count(next))
+            while (next <= a.rangeEnd && (taken.count(next) || a.isOtherHost(next)))
                 ++next;
             if (next > a.rangeEnd)
                 break;

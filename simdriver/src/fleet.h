@@ -3,6 +3,7 @@
 #include "simcamera.h"
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace sim {
@@ -55,6 +56,10 @@ public:
     // Recomputes every camera's derived state. Returns, per visible camera, a
     // fingerprint of what a client can see of it.
     std::map<std::uint32_t, std::string> recompute();
+
+    // Who on the adapter's network has the address: the adapter, a camera the
+    // driver sees there, or another host, in that order. Empty: nobody.
+    std::optional<MacAddress> arpAnswer(const SimAdapter& on, std::uint32_t address) const;
 
     std::uint32_t knownDevicesOn(const std::string& adapterName) const;
     void fillDeviceInformation(const SimCamera& camera, pv_DeviceInformation& info, std::uint32_t elapsedMs) const;

@@ -95,6 +95,31 @@ void JsonReader::readVersion(const char* key, std::uint32_t& value)
     value = PV_VERSION(major, minor, build);
 }
 
+void JsonReader::readIpRanges(const char* key, std::vector<std::pair<std::uint32_t, std::uint32_t>>& ranges)
+{
+    const QJsonValue v = fetch(key);
+    if (v.isUndefined())
+        return;
+    const char* expected = "a list of IPv4 addresses or ranges such as \"192.168.1.2-192.168.1.9\"";
+    if (!v.isArray())
+        return fail(key, expected);
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> result;
+    for (const QJsonValue& item : v.toArray()) {
+        if (!item.isString())
+            return fail(key, expected);
+        const std::string text = item.toString().toStdString();
+        const std::size_t dash = text.find('-');
+        const auto first = NetAddress::parseIp(text.substr(0, dash));
+        const auto last = dash == std::string::npos ? first : NetAddress::parseIp(text.substr(dash + 1));
+        if (!first || !last)
+            return fail(key, std::string(expected) + ", not \"" + text + "\"");
+        if (*first > *last)
+            return fail(key, "ranges whose first address is not after the last, not \"" + text + "\"");
+        result.emplace_back(*first, *last);
+    }
+    ranges = std::move(result);
+}
+
 void JsonReader::readIntList(const char* key, std::vector<std::uint32_t>& values, long long min, long long max)
 {
     const QJsonValue v = fetch(key);

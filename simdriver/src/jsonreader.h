@@ -28,6 +28,8 @@ public:
     void readMac(const char* key, MacAddress& value);
     // "major.minor.build" into a version word.
     void readVersion(const char* key, std::uint32_t& value);
+    // A list of texts, each an IPv4 address or a range "first-last" (first not after last).
+    void readIpRanges(const char* key, std::vector<std::pair<std::uint32_t, std::uint32_t>>& ranges);
     void readIntList(const char* key, std::vector<std::uint32_t>& values, long long min, long long max);
     bool has(const char* key) const { return m_object.contains(QLatin1String(key)); }
     QJsonValue take(const char* key);

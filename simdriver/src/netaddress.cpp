@@ -6,13 +6,25 @@ namespace sim::NetAddress {
 
 std::optional<std::uint32_t> parseIp(const std::string& text)
 {
-    unsigned a, b, c, d;
-    char tail;
-    if (std::sscanf(text.c_str(), "%3u.%3u.%3u.%3u%c", &a, &b, &c, &d, &tail) != 4)
+    // Four groups of one to three digits; no signs, blanks or other characters.
+    std::uint32_t ip = 0;
+    std::size_t pos = 0;
+    for (int group = 0; group < 4; ++group) {
+        if (group > 0 && (pos >= text.size() || text[pos++] != '.'))
+            return std::nullopt;
+        unsigned value = 0;
+        std::size_t digits = 0;
+        while (pos < text.size() && text[pos] >= '0' && text[pos] <= '9' && digits < 4) {
+            value = value * 10 + unsigned(text[pos++] - '0');
+            ++digits;
+        }
+        if (digits == 0 || digits > 3 || value > 255)
+            return std::nullopt;
+        ip = (ip << 8) | value;
+    }
+    if (pos != text.size())
         return std::nullopt;
-    if (a > 255 || b > 255 || c > 255 || d > 255)
-        return std::nullopt;
-    return (a << 24) | (b << 16) | (c << 8) | d;
+    return ip;
 }
 
 std::string formatIp(std::uint32_t ip)

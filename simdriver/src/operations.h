@@ -31,6 +31,8 @@ Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* ma
 Result ethConfig(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* buffer, std::uint32_t size);
 Result ethAdapterConfig(SimDriver& driver, const pv_AdapterId* adapter, std::uint32_t set, std::uint32_t command,
                         void* buffer, std::uint32_t size);
+// An ARP request on an adapter's virtual network; waits out the time-out when nobody answers.
+Result arpRequest(SimDriver& driver, const char* adapterName, const char* targetIp, std::uint8_t* mac);
 
 // Starter firmware upload time by camera type code.
 std::chrono::milliseconds firmwareUploadDuration(std::uint8_t typeCode);

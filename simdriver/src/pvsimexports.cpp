@@ -1,5 +1,6 @@
 // The simulated driver's own control interface with C linkage.
 #include "guarded.h"
+#include "operations.h"
 #include "scenario.h"
 #include "statereport.h"
 
@@ -168,6 +169,12 @@ int32_t PV_CALL pvsim_SetApiVersion(uint32_t version)
             return success();
         })
         .code;
+}
+
+int32_t PV_CALL pvsim_ArpRequest(const char* adapter, const char* targetIp, uint8_t* mac)
+{
+    return guarded("pvsim_ArpRequest",
+                   [&](SimDriver& d) { return sim::ops::arpRequest(d, adapter, targetIp, mac); });
 }
 
 int32_t PV_CALL pvsim_SetTimeScale(double scale)

@@ -5,6 +5,8 @@
 
 #include <QJsonObject>
 
+#include <vector>
+
 namespace sim {
 
 // A network adapter of the virtual GigE network. Cameras name the adapter that
@@ -28,9 +30,20 @@ struct SimAdapter
     std::uint32_t rangeBegin = 0;
     std::uint32_t rangeEnd = 0;
 
+    // Other devices on the adapter's network that answer ARP, first to last inclusive.
+    struct HostRange
+    {
+        std::uint32_t first;
+        std::uint32_t last;
+    };
+    std::vector<HostRange> hosts;
+
     Result apply(const QJsonObject& json);
 
     bool rangeValid() const;
+    bool isOtherHost(std::uint32_t address) const;
+    // The MAC an other host answers with: locally administered, 02:00 and the address.
+    static MacAddress otherHostMac(std::uint32_t address);
     // Packets are large enough for the cameras only with 2 KB jumbo packets on.
     bool settingsOk() const { return jumbo2k && mtu >= 2048; }
     std::uint32_t driverPacketSize() const { return jumbo2k ? 2048u : 1450u; }

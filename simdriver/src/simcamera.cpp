@@ -232,6 +232,17 @@ void SimCamera::deriveEthernet(const SimAdapter* adapter, const DriverSettings& 
     } else {
         deviceStatus |= PV_STATUS_IP_RANGE_NOT_APPLICABLE;
     }
+    targetIp = currentIp;
+    if (ipChanging) {
+        // Testing the new setting: no address yet, and no verdict on it either.
+        currentIp = 0;
+        currentMask = 0;
+        deviceStatus &= ~(PV_STATUS_PERSISTENT_IP_NOT_APPLICABLE | PV_STATUS_IP_RANGE_NOT_APPLICABLE);
+        deviceControl &= ~PV_CONTROL_PERSISTENT_IP_USED;
+        deviceStatus |= persistentIp != 0 ? PV_STATUS_TESTING_PERSISTENT_IP
+                        : rangeAddress != 0 ? PV_STATUS_TESTING_IP_RANGE
+                                            : PV_STATUS_TESTING_CURRENT_IP;
+    }
 
     const bool hasAddress = currentIp != 0;
     const bool compatible = starterFirmware >= settings.minStarter && starterFirmware <= settings.maxStarter;
@@ -243,12 +254,12 @@ void SimCamera::deriveEthernet(const SimAdapter* adapter, const DriverSettings& 
         deviceControl |= PV_CONTROL_ADAPTER_OK;
 
     dhcpState = PV_DHCP_SUPPORTED | (dhcp ? PV_DHCP_ENABLED : 0);
-    if (!hasAddress) {
+    if (!hasAddress && !ipChanging) {
         deviceStatus |= PV_STATUS_CURRENT_IP_NOT_APPLICABLE;
         if (dhcp)
             dhcpState |= PV_DHCP_WAITING_FOR_OFFER; // nothing on the virtual network answers DHCP
     }
-    if (hasAddress || !dhcp)
+    if (hasAddress || !dhcp || ipChanging)
         deviceStatus |= PV_STATUS_READY;
     if (firmwareCorrupted)
         deviceStatus |= PV_STATUS_RUNTIME_FW_ERROR;

@@ -96,10 +96,15 @@ struct SimCamera
     std::uint32_t openHandle = 0;
     bool uploading = false;
     bool rebooting = false;
+    // Between a written IP setting and the address it leads to; ipChange names
+    // the latest change, so that only its end finishes the transition.
+    bool ipChanging = false;
+    std::uint64_t ipChange = 0;
     std::uint32_t identifyCount = 0;
     std::chrono::steady_clock::time_point pluggedAt = std::chrono::steady_clock::now();
 
     // Derived by derive()
+    std::uint32_t targetIp = 0; // the address it has or, while its IP changes, moves to
     std::uint32_t currentIp = 0;
     std::uint32_t currentMask = 0;
     std::uint32_t deviceStatus = 0;

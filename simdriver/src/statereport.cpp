@@ -32,6 +32,7 @@ QJsonObject cameraReport(const SimCamera& camera, bool visible)
         {"otherHost", camera.heldByOtherHost},
         {"uploading", camera.uploading},
         {"rebooting", camera.rebooting},
+        {"ipChanging", camera.ipChanging},
         {"identifyCount", qint64(camera.identifyCount)},
         {"adapter", QString::fromStdString(camera.adapterName)},
         {"currentIp", ip(camera.currentIp)},
@@ -48,6 +49,9 @@ QJsonObject cameraReport(const SimCamera& camera, bool visible)
 
 QJsonObject adapterReport(const SimAdapter& adapter)
 {
+    QJsonArray hosts;
+    for (const SimAdapter::HostRange& range : adapter.hosts)
+        hosts.append(range.first == range.last ? ip(range.first) : ip(range.first) + '-' + ip(range.last));
     return QJsonObject{
         {"name", QString::fromStdString(adapter.name)},
         {"mac", QString::fromStdString(NetAddress::formatMac(adapter.mac))},
@@ -60,6 +64,7 @@ QJsonObject adapterReport(const SimAdapter& adapter)
         {"packetFilter", adapter.packetFilter},
         {"rangeBegin", ip(adapter.rangeBegin)},
         {"rangeEnd", ip(adapter.rangeEnd)},
+        {"hosts", hosts},
     };
 }
 
@@ -74,6 +79,8 @@ QJsonObject settingsReport(const DriverSettings& settings)
     return QJsonObject{
         {"apiVersion", QStringLiteral("%1.%2").arg(PV_VERSION_MAJOR(settings.apiVersion)).arg(PV_VERSION_MINOR(settings.apiVersion))},
         {"starterImage", version(settings.starterImage)},
+        {"arpTimeoutMs", qint64(settings.arpTimeoutMs)},
+        {"ipChangeMs", qint64(settings.ipChangeMs)},
         {"bootBoost", settings.bootBoostEnabled},
         {"bootBoostIds", ids},
         {"idleState", qint64(settings.idleState)},

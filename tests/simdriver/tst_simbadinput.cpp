@@ -32,6 +32,7 @@ struct Buffers
     pv_EventWait wait{};
     pv_EventInit init{900, 0, 0};
     std::uint32_t word = 0;
+    std::uint8_t mac[6] = {};
     std::uint32_t events[65] = {};
     char list[4 + 112] = {};
     pv_AdapterId simnet0{"simnet0", {}, {}};
@@ -57,6 +58,7 @@ private slots:
     void rejected_data();
     void rejected();
     void lastErrorQuery();
+    void arpOnAnAdapterWithoutAddress();
 };
 
 void TestSimBadInput::init()
@@ -229,6 +231,22 @@ void TestSimBadInput::rejected_data()
         return pv_EthAdapterConfig(&b.simnet0, 0, PV_ADAPTERCFG_BLOCK, &b.adapterBlock, sizeof b.adapterBlock - 1);
     });
 
+    row("ARP: adapter null", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest(nullptr, "192.168.50.10", b.mac); });
+    row("ARP: MAC null", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest("simnet0", "192.168.50.10", nullptr); });
+    row("ARP: unknown adapter", PV_ERR_UNKNOWN_ADAPTER,
+        [] { return pvsim_ArpRequest("nosuch0", "192.168.50.10", b.mac); });
+    row("ARP: three octets", PV_ERR_INVALID_PARAMETER, [] { return pvsim_ArpRequest("simnet0", "192.168.50", b.mac); });
+    row("ARP: blank before the address", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest("simnet0", " 192.168.50.10", b.mac); });
+    row("ARP: signed octet", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest("simnet0", "192.168.50.+10", b.mac); });
+    row("ARP: network address", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest("simnet0", "192.168.50.0", b.mac); });
+    row("ARP: another adapter's subnet", PV_ERR_INVALID_PARAMETER,
+        [] { return pvsim_ArpRequest("simnet0", "192.168.60.15", b.mac); });
+
     row("boot boost: camera handle", PV_ERR_UNKNOWN_HANDLE,
         [] { return pv_BootBoost(usbCamera, PV_BOOTBOOST_GET_ENABLED, &b.word, 4); });
     row("boot boost: unknown", PV_ERR_UNKNOWN_COMMAND, [] { return pv_BootBoost(0, 0x10002, &b.word, 4); });
@@ -272,6 +290,14 @@ void TestSimBadInput::lastErrorQuery()
     QCOMPARE(pvsim_FailOperation("pv_GetError", 127, 1), PV_OK);
     QCOMPARE(pv_GetError(PV_DRIVER_HANDLE, &code, &text), 127);
     QCOMPARE(pv_GetError(PV_DRIVER_HANDLE, &code, &text), PV_OK);
+}
+
+void TestSimBadInput::arpOnAnAdapterWithoutAddress()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "bare0", "mac": "02:00:00:00:07:01"}]})"), PV_OK);
+    QCOMPARE(pvsim_ArpRequest("bare0", "192.168.50.10", b.mac), PV_ERR_INVALID_PARAMETER);
+    QVERIFY2(lastErrorText().contains("bare0"), lastErrorText().constData());
+    QCOMPARE(pvsim_ArpRequest("bare0", "0.0.0.0", b.mac), PV_ERR_INVALID_PARAMETER);
 }
 
 QTEST_APPLESS_MAIN(TestSimBadInput)

@@ -404,6 +404,10 @@ void TestSimCameras::injectedFailures_data()
         pv_IpBlock block{};
         return pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block);
     });
+    row("ARP request, twice", "pvsim_ArpRequest", PV_ERR_TIMEOUT, 2, [] {
+        std::uint8_t mac[6] = {};
+        return pvsim_ArpRequest("simnet0", "192.168.50.1", mac);
+    });
 }
 
 void TestSimCameras::injectedFailures()

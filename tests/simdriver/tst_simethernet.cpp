@@ -3,14 +3,21 @@
 // service and its adapter bindings, and how each change shows in the cameras.
 #include "simdriverfixture.h"
 
+#include <QElapsedTimer>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <array>
+#include <atomic>
+#include <functional>
 #include <set>
+#include <thread>
 
 using namespace SimDriverFixture;
+
+using Call = std::function<std::int32_t()>;
+Q_DECLARE_METATYPE(Call)
 
 namespace {
 
@@ -50,6 +57,28 @@ std::uint32_t hostOrderOfInfoWord(std::uint32_t word)
     const std::uint8_t bytes[4] = {std::uint8_t(word), std::uint8_t(word >> 8), std::uint8_t(word >> 16),
                                    std::uint8_t(word >> 24)};
     return hostOrder(bytes);
+}
+
+constexpr std::uint32_t testingBits =
+    PV_STATUS_TESTING_CURRENT_IP | PV_STATUS_TESTING_PERSISTENT_IP | PV_STATUS_TESTING_IP_RANGE;
+const std::uint8_t simnet0Mac[6] = {0x02, 0xc1, 0x5e, 0x00, 0x00, 0x01};
+const std::uint8_t unconfiguredMac[6] = {0x00, 0x1c, 0xc1, 0x00, 0x00, 0x11};
+
+std::int32_t setPersistent(std::int32_t deviceId, Octets ip, Octets mask, const std::uint8_t* mac = nullptr)
+{
+    pv_IpBlock block = ipBlock(ip, mask);
+    return pv_IpConfig(deviceId, mac, PV_IPCFG_SET_PERSISTENT, &block, sizeof block);
+}
+
+std::int32_t setSimnet0Range(Octets begin, Octets end)
+{
+    pv_IpBlock block = ipBlock(begin, end, 100);
+    return pv_IpConfig(PV_ADDRESS_BY_MAC, simnet0Mac, PV_IPCFG_SET_RANGE, &block, sizeof block);
+}
+
+QByteArray currentIpText(std::uint32_t deviceId)
+{
+    return cameraState(deviceId).value("currentIp").toString().toLatin1();
 }
 
 bool sameBlock(const pv_IpBlock& a, const pv_IpBlock& b)
@@ -116,6 +145,21 @@ private slots:
     void adapterFramesTooSmallForJumboPackets();
     void stoppedServiceHidesGigE();
     void unboundAdapterHidesItsCameras();
+    void arpAnswers_data();
+    void arpAnswers();
+    void arpWaitsOnlyWhenNobodyAnswers_data();
+    void arpWaitsOnlyWhenNobodyAnswers();
+    void arpWaitLeavesTheDriverFree();
+    void rebootingCameraDoesNotAnswerArp();
+    void otherHostsAnswerAndHoldTheirAddresses_data();
+    void otherHostsAnswerAndHoldTheirAddresses();
+    void ipChangeTakesTime_data();
+    void ipChangeTakesTime();
+    void secondIpChangeStartsOver();
+    void scenarioLoadDropsAnIpChange();
+    void ipChangeAtOnceWithoutItsTime();
+    void unconfiguredCameraRepairs_data();
+    void unconfiguredCameraRepairs();
 
 private:
     EmptyConfigRoot m_emptyConfig;
@@ -156,6 +200,8 @@ void TestSimEthernet::persistentIpRoundTrip()
     QCOMPARE(pv_IpConfig(byMac ? PV_ADDRESS_BY_MAC : std::int32_t(unconfigured), byMac ? mac : nullptr,
                          PV_IPCFG_SET_PERSISTENT, &block, sizeof block),
              PV_OK);
+    QVERIFY(cameraState(unconfigured).value("ipChanging").toBool());
+    QVERIFY(ipChangesSettled());
     // Read back through the other way of addressing the camera.
     pv_IpBlock read{};
     QCOMPARE(pv_IpConfig(byMac ? std::int32_t(unconfigured) : PV_ADDRESS_BY_MAC, byMac ? nullptr : mac,
@@ -188,6 +234,7 @@ void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
     pv_IpBlock none{};
     QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, camera.u.eth.macAddress, PV_IPCFG_SET_PERSISTENT, &none, sizeof none),
              PV_OK);
+    QVERIFY(ipChangesSettled());
     pv_DeviceInformation info = deviceInfo(gigeCamera);
     const std::uint32_t current = hostOrderOfInfoWord(info.u.eth.currentIp);
     QVERIFY(current >= hostOrder(range.first) && current <= hostOrder(range.second));
@@ -211,6 +258,7 @@ void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
     // A new range moves the cameras without persistent address into it.
     pv_IpBlock narrow = ipBlock({192, 168, 50, 20}, {192, 168, 50, 29}, 100);
     QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_SET_RANGE, &narrow, sizeof narrow), PV_OK);
+    QVERIFY(ipChangesSettled());
     QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_GET_RANGE, &range, sizeof range), PV_OK);
     QVERIFY(sameBlock(range, narrow));
     for (std::uint32_t id : {gigeCamera, rangeCamera}) {
@@ -221,6 +269,7 @@ void TestSimEthernet::emptyPersistentIpTakesAnAddressFromTheRange()
     // A range outside the adapter's subnet gives no address at all.
     pv_IpBlock outside = ipBlock({10, 0, 0, 1}, {10, 0, 0, 9}, 100);
     QCOMPARE(pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac, PV_IPCFG_SET_RANGE, &outside, sizeof outside), PV_OK);
+    QVERIFY(ipChangesSettled());
     info = deviceInfo(gigeCamera);
     QCOMPARE(info.u.eth.currentIp, 0u);
     QVERIFY(!info.u.eth.adapterRangeValid);
@@ -248,6 +297,7 @@ void TestSimEthernet::bootBoostedCameraKeepsItsAddress()
 
     QCOMPARE(pv_BootBoost(PV_DRIVER_HANDLE, PV_BOOTBOOST_DISABLE, nullptr, 0), PV_OK);
     QCOMPARE(pv_IpConfig(std::int32_t(bootBoosted), nullptr, PV_IPCFG_SET_PERSISTENT, &block, sizeof block), PV_OK);
+    QVERIFY(ipChangesSettled());
     QCOMPARE(deviceInfo(bootBoosted).u.eth.currentIp, infoWord({192, 168, 50, 88}));
 }
 
@@ -548,9 +598,337 @@ void TestSimEthernet::unboundAdapterHidesItsCameras()
     QCOMPARE(pv_IpConfig(std::int32_t(gigeCamera), nullptr, PV_IPCFG_GET_PERSISTENT, &block, sizeof block),
              PV_ERR_UNKNOWN_DEVICE);
 
+    // Off the driver's network the cameras don't answer; the adapter itself does.
+    QByteArray mac;
+    QCOMPARE(arp("simnet0", "192.168.50.10"), PV_ERR_TIMEOUT);
+    QCOMPARE(arp("simnet0", "192.168.50.1", &mac), PV_OK);
+    QCOMPARE(mac, QByteArray::fromHex("02c15e000001"));
+
     writeIni(ini, "Bindings/simnet0", true);
     QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_RESCAN_ADAPTERS, nullptr, 0), PV_OK);
     QCOMPARE(listedIds(), before);
+    QCOMPARE(arp("simnet0", "192.168.50.10", &mac), PV_OK);
+    QCOMPARE(mac, QByteArray::fromHex("001cc1000010"));
+}
+
+void TestSimEthernet::arpAnswers_data()
+{
+    QTest::addColumn<QByteArray>("adapter");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QByteArray>("mac");
+
+    auto row = [](const char* name, const char* adapter, const char* target, const char* mac) {
+        QTest::newRow(name) << QByteArray(adapter) << QByteArray(target) << QByteArray::fromHex(mac);
+    };
+    row("the adapter itself", "simnet0", "192.168.50.1", "02c15e000001");
+    row("camera with a persistent IP", "simnet0", "192.168.50.10", "001cc1000010");
+    row("camera with a range address", "simnet0", "192.168.50.100", "001cc1000017");
+    row("camera paired with another host", "simnet0", "192.168.50.13", "001cc1000013");
+    row("camera on another adapter", "simnet1", "192.168.60.15", "001cc1000015");
+    row("camera that can't be reached for packet size", "simnet2", "192.168.70.16", "001cc1000016");
+    row("first other host", "simnet0", "192.168.50.2", "0200c0a83202");
+    row("last other host", "simnet0", "192.168.50.9", "0200c0a83209");
+}
+
+void TestSimEthernet::arpAnswers()
+{
+    QFETCH(QByteArray, adapter);
+    QFETCH(QByteArray, target);
+    QFETCH(QByteArray, mac);
+
+    QByteArray answer;
+    QCOMPARE(arp(adapter.constData(), target.constData(), &answer), PV_OK);
+    QCOMPARE(answer.toHex(':'), mac.toHex(':'));
+}
+
+void TestSimEthernet::arpWaitsOnlyWhenNobodyAnswers_data()
+{
+    QTest::addColumn<QByteArray>("adapter");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<std::int32_t>("code");
+
+    QTest::newRow("free address") << QByteArray("simnet0") << QByteArray("192.168.50.77")
+                                  << std::int32_t(PV_ERR_TIMEOUT);
+    QTest::newRow("answered") << QByteArray("simnet0") << QByteArray("192.168.50.10") << std::int32_t(PV_OK);
+    QTest::newRow("other host") << QByteArray("simnet0") << QByteArray("192.168.50.5") << std::int32_t(PV_OK);
+    QTest::newRow("outside the subnet") << QByteArray("simnet0") << QByteArray("10.0.0.11")
+                                        << std::int32_t(PV_ERR_INVALID_PARAMETER);
+    QTest::newRow("unknown adapter") << QByteArray("simnet7") << QByteArray("192.168.50.77")
+                                     << std::int32_t(PV_ERR_UNKNOWN_ADAPTER);
+}
+
+void TestSimEthernet::arpWaitsOnlyWhenNobodyAnswers()
+{
+    QFETCH(QByteArray, adapter);
+    QFETCH(QByteArray, target);
+    QFETCH(std::int32_t, code);
+
+    // The default ARP time-out of 1 s, scaled to 300 ms.
+    QCOMPARE(pvsim_SetTimeScale(0.3), PV_OK);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(arp(adapter.constData(), target.constData()), code);
+    const qint64 elapsed = timer.elapsed();
+    if (code == PV_ERR_TIMEOUT) {
+        QVERIFY2(elapsed >= 300, qPrintable(QString::number(elapsed)));
+        QVERIFY2(elapsed < 3000, qPrintable(QString::number(elapsed)));
+        QVERIFY(lastErrorText().contains(target));
+    } else {
+        QVERIFY2(elapsed < 300, qPrintable(QString::number(elapsed)));
+    }
+}
+
+void TestSimEthernet::arpWaitLeavesTheDriverFree()
+{
+    QCOMPARE(pvsim_SetTimeScale(1.0), PV_OK);
+    std::atomic<bool> waiting{true};
+    std::int32_t result = -1;
+    std::thread asker([&] {
+        result = arp("simnet0", "192.168.50.77");
+        waiting = false;
+    });
+    int calls = 0;
+    while (waiting && calls < 50) {
+        QByteArray mac;
+        QCOMPARE(arp("simnet0", "192.168.50.10", &mac), PV_OK);
+        QCOMPARE(int(list().size()), 17);
+        ++calls;
+    }
+    asker.join();
+    QCOMPARE(result, PV_ERR_TIMEOUT);
+    QCOMPARE(calls, 50); // all done while the request still waited
+}
+
+void TestSimEthernet::rebootingCameraDoesNotAnswerArp()
+{
+    QCOMPARE(pvsim_SetTimeScale(1.0), PV_OK); // the reboot takes 3 s
+    QCOMPARE(pv_RebootDevice(gigeCamera | PV_DEVICE_ID_FLAG, 0), PV_OK);
+    QCOMPARE(pvsim_SetTimeScale(0.001), PV_OK);
+    QVERIFY(cameraState(gigeCamera).value("rebooting").toBool());
+    QCOMPARE(arp("simnet0", "192.168.50.10"), PV_ERR_TIMEOUT);
+}
+
+void TestSimEthernet::otherHostsAnswerAndHoldTheirAddresses_data()
+{
+    QTest::addColumn<QByteArray>("hosts");
+    QTest::addColumn<QByteArray>("answering");
+    QTest::addColumn<QByteArray>("rangeAddress");
+
+    QTest::newRow("none") << QByteArray("[]") << QByteArray() << QByteArray("10.9.0.10");
+    QTest::newRow("one address below the range") << QByteArray(R"(["10.9.0.5"])") << QByteArray("10.9.0.5")
+                                                 << QByteArray("10.9.0.10");
+    QTest::newRow("range over the range's start") << QByteArray(R"(["10.9.0.8-10.9.0.12"])")
+                                                  << QByteArray("10.9.0.12") << QByteArray("10.9.0.13");
+    QTest::newRow("the whole range") << QByteArray(R"(["10.9.0.10-10.9.0.20"])") << QByteArray("10.9.0.20")
+                                     << QByteArray("0.0.0.0");
+}
+
+void TestSimEthernet::otherHostsAnswerAndHoldTheirAddresses()
+{
+    QFETCH(QByteArray, hosts);
+    QFETCH(QByteArray, answering);
+    QFETCH(QByteArray, rangeAddress);
+
+    const QByteArray scenario = R"({"adapters": [{"name": "test0", "mac": "02:00:00:00:09:01", "ip": "10.9.0.1",
+        "mask": "255.255.255.0", "rangeBegin": "10.9.0.10", "rangeEnd": "10.9.0.20", "hosts": )"
+                                + hosts + R"(}],
+        "cameras": [{"kind": "eth", "adapter": "test0", "mac": "00:1c:c1:00:09:01"}]})";
+    QCOMPARE(pvsim_LoadScenarioText(scenario.constData()), PV_OK);
+
+    const QJsonObject camera = cameraState(PV_ETH_DEVICE_FIRST);
+    QCOMPARE(camera.value("currentIp").toString().toLatin1(), rangeAddress);
+    if (!answering.isEmpty()) {
+        const QList<QByteArray> octets = answering.split('.');
+        QByteArray expected = QByteArray::fromHex("0200");
+        for (const QByteArray& octet : octets)
+            expected.append(char(octet.toInt()));
+        QByteArray mac;
+        QCOMPARE(arp("test0", answering.constData(), &mac), PV_OK);
+        QCOMPARE(mac.toHex(':'), expected.toHex(':'));
+    }
+    if (rangeAddress != "0.0.0.0") {
+        QByteArray mac;
+        QCOMPARE(arp("test0", rangeAddress.constData(), &mac), PV_OK);
+        QCOMPARE(mac, QByteArray::fromHex("001cc1000901"));
+    }
+}
+
+void TestSimEthernet::ipChangeTakesTime_data()
+{
+    QTest::addColumn<std::uint32_t>("deviceId");
+    QTest::addColumn<Call>("write");
+    QTest::addColumn<std::uint32_t>("testing");
+    QTest::addColumn<QByteArray>("address"); // afterwards
+    QTest::addColumn<std::uint32_t>("statusAfter");
+
+    auto row = [](const char* name, std::uint32_t id, Call write, std::uint32_t testing, const char* address,
+                  std::uint32_t statusAfter = 0) {
+        QTest::newRow(name) << id << write << testing << QByteArray(address) << statusAfter;
+    };
+    const Octets mask{255, 255, 255, 0};
+    row("persistent IP of the subnet", gigeCamera, [=] { return setPersistent(gigeCamera, {192, 168, 50, 60}, mask); },
+        PV_STATUS_TESTING_PERSISTENT_IP, "192.168.50.60");
+    row("persistent IP of another subnet", gigeCamera,
+        [=] { return setPersistent(gigeCamera, {10, 0, 0, 60}, mask); }, PV_STATUS_TESTING_PERSISTENT_IP, "0.0.0.0",
+        PV_STATUS_PERSISTENT_IP_NOT_APPLICABLE);
+    row("persistent IP cleared", gigeCamera, [] { return setPersistent(gigeCamera, {}, {}); },
+        PV_STATUS_TESTING_IP_RANGE, "192.168.50.101");
+    row("range camera given a persistent IP", rangeCamera,
+        [=] { return setPersistent(rangeCamera, {192, 168, 50, 61}, mask); }, PV_STATUS_TESTING_PERSISTENT_IP,
+        "192.168.50.61");
+    row("range moved", rangeCamera, [] { return setSimnet0Range({192, 168, 50, 20}, {192, 168, 50, 29}); },
+        PV_STATUS_TESTING_IP_RANGE, "192.168.50.20");
+    row("range moved to another subnet", rangeCamera,
+        [] { return setSimnet0Range({10, 0, 0, 1}, {10, 0, 0, 9}); }, PV_STATUS_TESTING_CURRENT_IP, "0.0.0.0",
+        PV_STATUS_IP_RANGE_NOT_APPLICABLE);
+}
+
+void TestSimEthernet::ipChangeTakesTime()
+{
+    QFETCH(std::uint32_t, deviceId);
+    QFETCH(Call, write);
+    QFETCH(std::uint32_t, testing);
+    QFETCH(QByteArray, address);
+    QFETCH(std::uint32_t, statusAfter);
+
+    QCOMPARE(pvsim_SetTimeScale(0.2), PV_OK); // the default 1.5 s become 300 ms
+    Event own(deviceId | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    Event global(PV_DRIVER_HANDLE, PV_EVENT_DEVICE_CHANGED);
+    QVERIFY(own.ok() && global.ok());
+
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(write(), PV_OK);
+    pv_DeviceInformation info = deviceInfo(deviceId);
+    QCOMPARE(info.deviceStatus & testingBits, testing);
+    QCOMPARE(info.u.eth.currentIp, 0u);
+    QVERIFY(!(info.deviceControlStatus & (PV_CONTROL_AVAILABLE | PV_CONTROL_PERSISTENT_IP_USED)));
+    QVERIFY(info.deviceStatus & PV_STATUS_READY);
+    QVERIFY(!(info.deviceStatus & PV_STATUS_CURRENT_IP_NOT_APPLICABLE));
+    QVERIFY(cameraState(deviceId).value("ipChanging").toBool());
+    QCOMPARE(wait(deviceId | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 0), PV_OK);
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_CHANGED}, 0), PV_OK);
+
+    QCOMPARE(wait(deviceId | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 5000), PV_OK);
+    QVERIFY2(timer.elapsed() >= 300, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(wait(PV_DRIVER_HANDLE, {PV_EVENT_DEVICE_CHANGED}, 0), PV_OK);
+    info = deviceInfo(deviceId);
+    QCOMPARE(info.deviceStatus & testingBits, 0u);
+    QCOMPARE(currentIpText(deviceId), address);
+    QCOMPARE(info.deviceStatus & statusAfter, statusAfter);
+    QCOMPARE(bool(info.deviceControlStatus & PV_CONTROL_AVAILABLE), address != "0.0.0.0");
+    QVERIFY(!cameraState(deviceId).value("ipChanging").toBool());
+}
+
+void TestSimEthernet::secondIpChangeStartsOver()
+{
+    QCOMPARE(pvsim_SetTimeScale(0.2), PV_OK);
+    Event own(gigeCamera | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    QVERIFY(own.ok());
+    QCOMPARE(setPersistent(gigeCamera, {192, 168, 50, 60}, {255, 255, 255, 0}), PV_OK);
+    QTest::qSleep(150); // half of the first change's time passes
+
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(setPersistent(gigeCamera, {}, {}), PV_OK);
+    QCOMPARE(deviceInfo(gigeCamera).deviceStatus & testingBits, std::uint32_t(PV_STATUS_TESTING_IP_RANGE));
+    QCOMPARE(wait(gigeCamera | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 0), PV_OK);
+
+    // The first change's end passes unnoticed; the camera takes the newest setting.
+    QCOMPARE(wait(gigeCamera | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 5000), PV_OK);
+    QVERIFY2(timer.elapsed() >= 300, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(currentIpText(gigeCamera), QByteArray("192.168.50.101"));
+    QVERIFY(deviceInfo(gigeCamera).deviceControlStatus & PV_CONTROL_AVAILABLE);
+}
+
+void TestSimEthernet::scenarioLoadDropsAnIpChange()
+{
+    QCOMPARE(pvsim_SetTimeScale(0.2), PV_OK);
+    QCOMPARE(setPersistent(gigeCamera, {192, 168, 50, 60}, {255, 255, 255, 0}), PV_OK);
+    QVERIFY(cameraState(gigeCamera).value("ipChanging").toBool());
+    QCOMPARE(pvsim_LoadScenario(nullptr), PV_OK);
+    QVERIFY(!cameraState(gigeCamera).value("ipChanging").toBool());
+    QCOMPARE(currentIpText(gigeCamera), QByteArray("192.168.50.10"));
+    QVERIFY(deviceInfo(gigeCamera).deviceControlStatus & PV_CONTROL_AVAILABLE);
+
+    // A change in the new fleet runs its own time, whatever the dropped one had left.
+    QTest::qSleep(150);
+    Event own(gigeCamera | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    QVERIFY(own.ok());
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(setPersistent(gigeCamera, {192, 168, 50, 62}, {255, 255, 255, 0}), PV_OK);
+    QCOMPARE(wait(gigeCamera | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 0), PV_OK);
+    QCOMPARE(wait(gigeCamera | PV_DEVICE_ID_FLAG, {PV_EVENT_DEVICE_CHANGED}, 5000), PV_OK);
+    QVERIFY2(timer.elapsed() >= 300, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(currentIpText(gigeCamera), QByteArray("192.168.50.62"));
+}
+
+void TestSimEthernet::ipChangeAtOnceWithoutItsTime()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"driver": {"ipChangeMs": 0},
+        "adapters": [{"name": "test0", "mac": "02:00:00:00:09:01", "ip": "10.9.0.1", "mask": "255.255.255.0"}],
+        "cameras": [{"kind": "eth", "adapter": "test0", "mac": "00:1c:c1:00:09:01"}]})"),
+             PV_OK);
+    QCOMPARE(setPersistent(PV_ETH_DEVICE_FIRST, {10, 9, 0, 30}, {255, 255, 255, 0}), PV_OK);
+    QVERIFY(!cameraState(PV_ETH_DEVICE_FIRST).value("ipChanging").toBool());
+    QCOMPARE(currentIpText(PV_ETH_DEVICE_FIRST), QByteArray("10.9.0.30"));
+    QVERIFY(deviceInfo(PV_ETH_DEVICE_FIRST).deviceControlStatus & PV_CONTROL_AVAILABLE);
+}
+
+void TestSimEthernet::unconfiguredCameraRepairs_data()
+{
+    QTest::addColumn<Call>("repair");
+    QTest::addColumn<std::uint32_t>("testing");
+    QTest::addColumn<QByteArray>("address");
+    QTest::addColumn<bool>("dhcp");
+
+    // As the automatic configuration does it: the whole subnet as range, then
+    // the persistent IP cleared, by MAC. Skips the adapter, the other hosts
+    // and the persistent IPs of 192.168.50.10.
+    QTest::newRow("range over the subnet, persistent IP cleared by MAC") << Call([] {
+        const std::int32_t r = setSimnet0Range({192, 168, 50, 1}, {192, 168, 50, 254});
+        if (r != PV_OK || cameraState(unconfigured).value("ipChanging").toBool())
+            return r != PV_OK ? r : PV_ERR_GENERAL;
+        return setPersistent(PV_ADDRESS_BY_MAC, {}, {}, unconfiguredMac);
+    }) << std::uint32_t(PV_STATUS_TESTING_IP_RANGE) << QByteArray("192.168.50.11") << true;
+    QTest::newRow("free persistent IP by device ID, DHCP off") << Call([] {
+        const std::int32_t r = setPersistent(std::int32_t(unconfigured), {192, 168, 50, 23}, {255, 255, 255, 0});
+        std::uint32_t off = 0;
+        return r != PV_OK ? r : pv_IpConfig(std::int32_t(unconfigured), nullptr, PV_IPCFG_SET_DHCP, &off, 4);
+    }) << std::uint32_t(PV_STATUS_TESTING_PERSISTENT_IP) << QByteArray("192.168.50.23") << false;
+}
+
+void TestSimEthernet::unconfiguredCameraRepairs()
+{
+    QFETCH(Call, repair);
+    QFETCH(std::uint32_t, testing);
+    QFETCH(QByteArray, address);
+    QFETCH(bool, dhcp);
+
+    QVERIFY(!(deviceInfo(unconfigured).deviceControlStatus & PV_CONTROL_AVAILABLE));
+    QCOMPARE(arp("simnet0", address.constData()), PV_ERR_TIMEOUT); // free before
+
+    QCOMPARE(pvsim_SetTimeScale(0.2), PV_OK);
+    Event own(unconfigured | PV_DEVICE_ID_FLAG, PV_EVENT_DEVICE_CHANGED);
+    QVERIFY(own.ok());
+    QCOMPARE(repair(), PV_OK);
+    const pv_DeviceInformation during = deviceInfo(unconfigured);
+    QCOMPARE(during.deviceStatus & testingBits, testing);
+    QCOMPARE(during.u.eth.currentIp, 0u);
+    QVERIFY(!(during.deviceControlStatus & PV_CONTROL_AVAILABLE));
+    QCOMPARE(arp("simnet0", address.constData()), PV_ERR_TIMEOUT); // not answering while it tests
+    QVERIFY(ipChangesSettled());
+
+    const pv_DeviceInformation after = deviceInfo(unconfigured);
+    QCOMPARE(currentIpText(unconfigured), address);
+    QVERIFY(after.deviceControlStatus & PV_CONTROL_AVAILABLE);
+    QVERIFY(after.deviceStatus & PV_STATUS_READY);
+    QCOMPARE(bool(after.u.eth.dhcpState & PV_DHCP_ENABLED), dhcp);
+    QByteArray mac;
+    QCOMPARE(arp("simnet0", address.constData(), &mac), PV_OK);
+    QCOMPARE(mac, QByteArray(reinterpret_cast<const char*>(unconfiguredMac), 6));
+    QCOMPARE(currentIpText(rangeCamera), QByteArray("192.168.50.100")); // the others keep theirs
 }
 
 QTEST_GUILESS_MAIN(TestSimEthernet)

@@ -185,6 +185,27 @@ void TestSimScenario::rejectedScenarioKeepsTheFleet_data()
     row("unknown service state", R"({"services": {"cirro_eth": "paused"}})", "cirro_eth");
     row("timeline event without action", R"({"timeline": [{"afterMs": 10}]})", "timeline");
     row("timeline event in the past", R"({"timeline": [{"afterMs": -5, "unplug": "U1"}]})", "afterMs");
+    row("ARP time-out of 0", R"({"driver": {"arpTimeoutMs": 0}})", "arpTimeoutMs");
+    row("ARP time-out as text", R"({"driver": {"arpTimeoutMs": "1000"}})", "arpTimeoutMs");
+    row("IP change above a minute", R"({"driver": {"ipChangeMs": 60001}})", "ipChangeMs");
+    row("IP change negative", R"({"driver": {"ipChangeMs": -1}})", "ipChangeMs");
+
+    // Other hosts on an adapter's network, 10.9.0.0/24 unless the row says otherwise.
+    auto hostsRow = [&row](const char* name, const char* hosts, const char* mentions,
+                           const char* address = R"("ip": "10.9.0.1", "mask": "255.255.255.0", )") {
+        const QByteArray json = QByteArray(R"({"adapters": [{"name": "simnetB", )") + address + R"("hosts": )"
+                                + hosts + "}]}";
+        QTest::newRow(name) << json << std::int32_t(PV_ERR_INVALID_PARAMETER) << QByteArray(mentions);
+    };
+    hostsRow("hosts: one address, not a list", R"("10.9.0.5")", "\"hosts\"");
+    hostsRow("hosts: a number", "[5]", "\"hosts\"");
+    hostsRow("hosts: range without its end", R"(["10.9.0.5-"])", "10.9.0.5-");
+    hostsRow("hosts: blanks around the dash", R"(["10.9.0.5 - 10.9.0.9"])", "10.9.0.5 - 10.9.0.9");
+    hostsRow("hosts: reversed range", R"(["10.9.0.9-10.9.0.5"])", "10.9.0.9-10.9.0.5");
+    hostsRow("hosts: address of another subnet", R"(["10.9.0.5", "10.8.0.5"])", "10.8.0.5");
+    hostsRow("hosts: range leaving the subnet", R"(["10.9.0.250-10.9.1.3"])", "10.9.0.250-10.9.1.3");
+    hostsRow("hosts: network address", R"(["10.9.0.0-10.9.0.5"])", "10.9.0.0-10.9.0.5");
+    hostsRow("hosts: adapter without address", R"(["10.9.0.5"])", "\"hosts\"", "");
 }
 
 void TestSimScenario::rejectedScenarioKeepsTheFleet()
