@@ -9,11 +9,17 @@
 #include "app/widgets/startupimages.h"
 #include "app/widgets/statuspanel.h"
 #include "camera/cameraactions.h"
+#include "camera/cameralistmodel.h"
 #include "camera/statusassessment.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 #include "common/elevation.h"
 #include "details/widgets/deviceinfoview.h"
+#include "network/autoconfiguration.h"
+#include "network/ethcamerasettings.h"
+#include "network/ipv4.h"
+#include "network/widgets/ethconfig.h"
+#include "network/widgets/ipchangefollowup.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,10 +29,14 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
+#include <QThreadPool>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QtConcurrent>
 
 #include <algorithm>
 
@@ -85,6 +95,7 @@ QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* paren
 QCirroCameramanager::~QCirroCameramanager()
 {
     saveSettings();
+    m_autoConfigWatcher.waitForFinished();
 }
 
 void QCirroCameramanager::createWidgets()
@@ -93,6 +104,7 @@ void QCirroCameramanager::createWidgets()
     setCentralWidget(central);
     m_serviceTimer = new QTimer(this);
     m_commands = new CommandRegistry(this);
+    m_ipChangeFollowUp = new IpChangeFollowUp(this);
     m_logo = new QLabel(central);
     m_logo->setObjectName(QStringLiteral("logo"));
     m_logo->setPixmap(StartupImages::icon(QStringLiteral(":/images/logo_parvel.png")).pixmap(QSize(160, 48)));
@@ -170,12 +182,20 @@ void QCirroCameramanager::makeConnections()
             [this](const camera::optional<Camera>& camera) { onCurrentCameraChanged(camera); });
     connect(m_cameraList, &CameraList::cameraListChanged, this, &QCirroCameramanager::onCameraListChanged);
     connect(m_deviceDetails, &DeviceInfoView::updateNeeded, this, &QCirroCameramanager::onDeviceInfoUpdateNeeded);
+    connect(&m_autoConfigWatcher, &QFutureWatcherBase::finished, this, &QCirroCameramanager::onAutoConfigFinished);
+    connect(m_cameraList, &CameraList::cameraListChanged, m_ipChangeFollowUp,
+            [this] { m_ipChangeFollowUp->onCameraListChanged(m_cameraList->model()->cameraList()); });
+    connect(m_ipChangeFollowUp, &IpChangeFollowUp::statusMessage, this, &QCirroCameramanager::Printer);
 }
 
 // One line per handled command; the others keep their buttons
 // and menu entries disabled.
 void QCirroCameramanager::registerCommands()
 {
+    m_commands->setHandler(Command::ManualEthConfiguration, [this] { onManualEthConfig(); });
+    m_commands->handleRequest(Command::ManualEthConfiguration, m_cameraList, &CameraList::openIPSettings, this,
+                              &QCirroCameramanager::onManualEthConfig);
+    m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -330,6 +350,67 @@ void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
 void QCirroCameramanager::onIdentifyCamera(const Camera& camera)
 {
     CameraActions::identify(camera);
+}
+
+void QCirroCameramanager::onManualEthConfig()
+{
+    const Camera* selected = currentCamera();
+    if (!selected || m_serviceStates.eth == CoreStates::NotInstalled)
+        return;
+    if (m_messagesEnabled)
+        m_statusPanel->print(tr("Open eth configuration..."), Qt::black, false);
+    Camera camera = *selected;
+    QPointer<EthConfig> dialog = new EthConfig(this, &camera);
+    const bool applied = dialog->exec() == QDialog::Accepted;
+    // Closing schedules the dialog's deletion; what it read is still there.
+    if (applied && dialog) {
+        IpChangeVerifier::Expectation expectation{MacAddress::parse(camera.macAddress()),
+                                                  dialog->appliedPersistentIp(), false};
+        expectation.fromRange = expectation.address == 0;
+        m_ipChangeFollowUp->follow(camera, expectation, dialog->initialSettings());
+    }
+    m_cameraList->refreshSelectedCamera();
+    updateDetails(false);
+}
+
+void QCirroCameramanager::onAutoConfig()
+{
+    const Camera* camera = currentCamera();
+    if (!camera || m_autoConfigWatcher.isRunning())
+        return;
+    m_autoConfigProgress = new QProgressDialog(
+        tr("Setting autoconfiguration. Please wait...\n\nThis operation may take up to 10 seconds."), QString(), 0, 1,
+        this);
+    m_autoConfigProgress->setObjectName(QStringLiteral("autoConfigProgress"));
+    m_autoConfigProgress->setCancelButton(nullptr);
+    m_autoConfigProgress->setWindowModality(Qt::WindowModal);
+    m_autoConfigProgress->setMinimumDuration(0);
+    m_autoConfigProgress->show();
+    m_autoConfigCamera = *camera;
+    m_autoConfigBefore = EthCameraSettings::read(*camera);
+    const AutoConfiguration job = AutoConfiguration::of(*camera);
+    m_autoConfigWatcher.setFuture(QtConcurrent::run(QThreadPool::globalInstance(), [job] { return job.run(); }));
+}
+
+void QCirroCameramanager::onAutoConfigFinished()
+{
+    if (m_autoConfigProgress) {
+        m_autoConfigProgress->setValue(m_autoConfigProgress->maximum());
+        m_autoConfigProgress->deleteLater();
+        m_autoConfigProgress = nullptr;
+    }
+    const quint32 result = m_autoConfigWatcher.result();
+    // The boot-boost text goes with the general failure code, and the other way round.
+    if (result == AutoConfiguration::rangeFailed || result == AutoConfiguration::bootBoostRefused) {
+        QMessageBox::critical(this, tr("Automatic configuration"), tr("Automatic configuration can't be applied!"));
+    } else if (result == AutoConfiguration::persistentFailed) {
+        QMessageBox::critical(this, tr("Automatic configuration"),
+                              tr("Automatic configuration & Boot boost are not compatible!"));
+    } else if (m_autoConfigCamera) {
+        m_ipChangeFollowUp->follow(*m_autoConfigCamera,
+                                   {MacAddress::parse(m_autoConfigCamera->macAddress()), 0, true}, m_autoConfigBefore);
+    }
+    m_autoConfigCamera.reset();
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

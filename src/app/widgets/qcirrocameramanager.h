@@ -2,10 +2,12 @@
 
 #include "app/languageloader.h"
 #include "camera/camera.h"
+#include "network/ethcamerasettings.h"
 #include "services/corestates.h"
 #include "services/servicemanager.h"
 
 #include <QColor>
+#include <QFutureWatcher>
 #include <QList>
 #include <QMainWindow>
 
@@ -15,6 +17,8 @@ class CameraList;
 class CommandRegistry;
 class ControlArea;
 class DeviceInfoView;
+class IpChangeFollowUp;
+class QProgressDialog;
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -64,6 +68,9 @@ public slots:
     void onDeviceInfoUpdateNeeded(bool force);
     void onOpenCamera(const QList<Camera>& cameras);
     void onIdentifyCamera(const Camera& camera);
+    void onManualEthConfig();
+    void onAutoConfig();
+    void onAutoConfigFinished();
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();
@@ -102,6 +109,12 @@ private:
     QLabel* m_bottomLeftLabel = nullptr;
     QGroupBox* m_detailsGroup = nullptr;
     DeviceInfoView* m_deviceDetails = nullptr;
+    QFutureWatcher<quint32> m_autoConfigWatcher;
+    QProgressDialog* m_autoConfigProgress = nullptr;
+    IpChangeFollowUp* m_ipChangeFollowUp = nullptr;
+    // The camera of the running automatic configuration, and its settings before.
+    camera::optional<Camera> m_autoConfigCamera;
+    EthCameraSettings m_autoConfigBefore;
     bool m_dialogBusy = false; // while the camera information dialog is open
     bool m_messagesEnabled = true;
 

@@ -297,10 +297,15 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
     const auto window = makeWindow();
     select(*window, 1000);
     for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile", "ethNetworkService",
-                             "additionalFunctions", "automaticEthConfiguration", "uploadStarterFirmware",
-                             "manualEthConfiguration"})
+                             "additionalFunctions", "uploadStarterFirmware"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
+    // Built, and allowed for a free GigE camera but not for a USB camera.
+    QVERIFY(child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    select(*window, 0);
+    QVERIFY(!child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
+    QVERIFY(!child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
 }
 
 void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "camera/camera.h"
+#include "network/ethcamerasettings.h"
+#include "network/ethconfigsettings.h"
+#include "network/ipchangeverifier.h"
+
+#include <QColor>
+#include <QFutureWatcher>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class QWidget;
+
+// What happens after a camera's network settings were applied: the camera is
+// followed until the driver reaches it again, which the status line reports
+// with the time it took. When it does not come back in time, the status line
+// says what the camera's state now is and the user may restore the settings
+// it had before.
+class IpChangeFollowUp final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(IpChangeFollowUp)
+
+public:
+    explicit IpChangeFollowUp(QWidget* window);
+    ~IpChangeFollowUp() override;
+
+    // Replaces any camera followed so far.
+    void follow(const Camera& camera, const IpChangeVerifier::Expectation& expectation,
+                const EthCameraSettings& before);
+    void onCameraListChanged(const QList<std::shared_ptr<Camera>>& cameras);
+
+signals:
+    void statusMessage(const QString& text, const QColor& colour, bool busy);
+
+private:
+    void onReachable(const Camera& camera, qint64 elapsedMs);
+    void onTimedOut(const camera::optional<Camera>& lastSeen, qint64 elapsedMs);
+    void onRestoreFinished();
+
+    QWidget* m_window;
+    std::unique_ptr<IpChangeVerifier> m_verifier;
+    quint32 m_deviceId = 0;
+    MacAddress m_adapterMac;
+    EthCameraSettings m_before;
+    std::shared_ptr<EthConfigSettings> m_restore;
+    QFutureWatcher<ConfigResult> m_restoreWatcher;
+};
