@@ -29,12 +29,13 @@ IpChangeFollowUp::~IpChangeFollowUp()
 }
 
 void IpChangeFollowUp::follow(const Camera& camera, const IpChangeVerifier::Expectation& expectation,
-                              const EthCameraSettings& before)
+                              const EthCameraSettings& before, std::optional<std::chrono::milliseconds> timeout)
 {
     m_deviceId = camera.deviceId();
     m_adapterMac = MacAddress::parse(camera.adapterMac());
     m_before = before;
-    m_verifier = std::make_unique<IpChangeVerifier>(expectation, IpChangeVerifier::timeoutFor(camera));
+    m_verifier = std::make_unique<IpChangeVerifier>(expectation,
+                                                    timeout.value_or(IpChangeVerifier::timeoutFor(camera)));
     connect(m_verifier.get(), &IpChangeVerifier::reachable, this, &IpChangeFollowUp::onReachable);
     connect(m_verifier.get(), &IpChangeVerifier::timedOut, this, &IpChangeFollowUp::onTimedOut);
     m_verifier->start();

@@ -11,6 +11,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class QWidget;
 
@@ -28,9 +29,10 @@ public:
     explicit IpChangeFollowUp(QWidget* window);
     ~IpChangeFollowUp() override;
 
-    // Replaces any camera followed so far.
+    // Replaces any camera followed so far. Without a time-out the camera's
+    // heartbeat decides it.
     void follow(const Camera& camera, const IpChangeVerifier::Expectation& expectation,
-                const EthCameraSettings& before);
+                const EthCameraSettings& before, std::optional<std::chrono::milliseconds> timeout = {});
     void onCameraListChanged(const QList<std::shared_ptr<Camera>>& cameras);
 
 signals:

@@ -2,6 +2,7 @@
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 
+#include "messageboxanswerer.h"
 #include "simdriverfixture.h"
 
 #include <QCheckBox>
@@ -67,6 +68,8 @@ private slots:
     void selectionFillsTheStatusLines();
     void commandsWithoutTheirFeatureStayDisabled();
     void deletingAReadOnlyDeviceRemovesIt();
+    void automaticConfigurationRepairsACamera();
+    void automaticConfigurationFailureIsReported();
 
 private:
     std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations);
@@ -320,6 +323,32 @@ void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()
     remove->trigger();
     QVERIFY(cameraState(1500).isEmpty());
     QTRY_VERIFY(!window->cameraList()->selectedCamera());
+}
+
+void TestMainWindow::automaticConfigurationRepairsACamera()
+{
+    const auto window = makeWindow();
+    select(*window, 1001);
+    auto* status = child<QLabel>(*window, "statusText");
+    QVERIFY2(status->text().startsWith("<font color='#ff0000'>"), qPrintable(status->text()));
+    child<QPushButton>(*window, "automaticEthConfiguration")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(status->text().contains("Device 1001 is reachable at 192.168.50."), 5000);
+    // Red turned black: the camera is configured correctly now.
+    window->UpdateControls();
+    QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Status of device 1001: The camera is configured "
+                                            "correctly and can be opened.</font>"));
+}
+
+void TestMainWindow::automaticConfigurationFailureIsReported()
+{
+    const auto window = makeWindow();
+    select(*window, 1001);
+    MessageBoxAnswerer answerer(QMessageBox::Ok);
+    // The settings are read first (four calls, read as unknown), then the range write fails.
+    QCOMPARE(pvsim_FailOperation("pv_IpConfig", PV_ERR_DEVICE_UNREACHABLE, 5), PV_OK);
+    child<QPushButton>(*window, "automaticEthConfiguration")->click();
+    QTRY_COMPARE(answerer.seen, QStringList{"Automatic configuration: Automatic configuration can't be applied!"});
+    QCOMPARE(cameraState(1001).value("persistentIp").toString(), QStringLiteral("10.0.0.11"));
 }
 
 QTEST_MAIN(TestMainWindow)

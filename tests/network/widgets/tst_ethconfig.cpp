@@ -2,6 +2,7 @@
 #include "network/widgets/qipedit.h"
 
 #include "fleetcamera.h"
+#include "messageboxanswerer.h"
 #include "simdriverfixture.h"
 
 #include <QApplication>
@@ -11,39 +12,11 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 using namespace SimDriverFixture;
 
 namespace {
-
-// Answers every message box that opens with the given button and keeps its
-// title and text.
-class MessageBoxAnswerer : public QObject
-{
-public:
-    explicit MessageBoxAnswerer(QMessageBox::StandardButton answer)
-        : m_answer(answer)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            for (QWidget* widget : QApplication::topLevelWidgets()) {
-                auto* box = qobject_cast<QMessageBox*>(widget);
-                if (!box || !box->isVisible())
-                    continue;
-                seen << box->windowTitle() + QStringLiteral(": ") + box->text();
-                box->button(m_answer) ? box->button(m_answer)->click() : box->reject();
-            }
-        });
-        m_timer.start(10);
-    }
-
-    QStringList seen;
-
-private:
-    QMessageBox::StandardButton m_answer;
-    QTimer m_timer;
-};
 
 QJsonObject adapterState(const QString& name)
 {
