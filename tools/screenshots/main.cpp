@@ -1,4 +1,4 @@
-// Writes PNG files of the main window on the default simulated fleet:
+// Writes PNG files of the main window and its dialogs on the default simulated fleet:
 //   cirro_screenshots <output directory>
 // Run it under Xvfb through tools/screenshots.sh. The user's settings are
 // kept out of the way in a temporary directory.
@@ -7,14 +7,24 @@
 #include "app/widgets/startup.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
+#include "network/widgets/ethconfig.h"
+#include "network/widgets/qipedit.h"
+
+#include <pvsim.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTextStream>
 
 #include <cstdio>
@@ -27,6 +37,64 @@ bool save(QWidget& window, const QDir& directory, const QString& name)
     const QString path = directory.filePath(name + QStringLiteral(".png"));
     const bool ok = window.grab().save(path);
     std::fprintf(ok ? stdout : stderr, "%s %s\n", ok ? "wrote" : "could not write", qPrintable(path));
+    return ok;
+}
+
+// The screen under the window and whatever it shows on top (message boxes,
+// progress dialogs).
+bool saveScreen(QWidget& window, const QDir& directory, const QString& name)
+{
+    QApplication::processEvents();
+    QRect area = window.frameGeometry();
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && top != window.window() && top->parentWidget())
+            area |= top->frameGeometry();
+    }
+    const QString path = directory.filePath(name + QStringLiteral(".png"));
+    const bool ok = window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height()).save(path);
+    std::fprintf(ok ? stdout : stderr, "%s %s\n", ok ? "wrote" : "could not write", qPrintable(path));
+    return ok;
+}
+
+// Presses the dialog's OK and shoots the message box that it opens.
+bool saveMessageAfterOk(EthConfig& dialog, const QDir& directory, const QString& name)
+{
+    bool ok = false;
+    QTimer::singleShot(600, &dialog, [&] {
+        ok = saveScreen(dialog, directory, name);
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->accept();
+    });
+    dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttons"))->button(QDialogButtonBox::Ok)->click();
+    QTest::qWait(800);
+    return ok;
+}
+
+bool shootEthConfig(QCirroCameramanager& window, const QDir& output)
+{
+    window.cameraList()->selectDevice(1001);
+    Camera camera = *window.cameraList()->selectedCamera();
+    EthConfig dialog(&window, &camera);
+    dialog.setAttribute(Qt::WA_DeleteOnClose, false);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    bool ok = save(dialog, output, QStringLiteral("ethconfig"));
+
+    dialog.findChild<QIpEdit*>(QStringLiteral("rangeBegin"))->setText(QStringLiteral("192.168.50.150"));
+    dialog.findChild<QIpEdit*>(QStringLiteral("rangeEnd"))->setText(QStringLiteral("192.168.50.120"));
+    ok = saveMessageAfterOk(dialog, output, QStringLiteral("ethconfig-warning")) && ok;
+
+    // In real time the search waits a second for the free address.
+    pvsim_SetTimeScale(1.0);
+    dialog.findChild<QPushButton*>(QStringLiteral("suggestIp"))->click();
+    QTest::qWait(400);
+    ok = saveScreen(dialog, output, QStringLiteral("ethconfig-progress")) && ok;
+    QTest::qWait(1500);
+
+    pvsim_FailOperation("pv_IpConfig", PV_ERR_DEVICE_UNREACHABLE, 1);
+    ok = saveMessageAfterOk(dialog, output, QStringLiteral("ethconfig-error")) && ok;
+    pvsim_ClearFailures();
     return ok;
 }
 
@@ -74,9 +142,17 @@ int main(int argc, char* argv[])
     ok = save(window, output, QStringLiteral("expert-gige")) && ok;
     window.cameraList()->selectDevice(0);
     ok = save(window, output, QStringLiteral("expert-usb")) && ok;
-
     window.findChild<QCheckBox*>(QStringLiteral("expertMode"))->setChecked(false);
     window.resize(960, 780);
+
+    ok = shootEthConfig(window, output) && ok;
+    window.cameraList()->selectDevice(1001);
+    window.findChild<QPushButton*>(QStringLiteral("automaticEthConfiguration"))->click();
+    auto* status = window.findChild<QLabel*>(QStringLiteral("statusText"));
+    ok = QTest::qWaitFor([status] { return status->text().contains(QStringLiteral("reachable")); }, 10000) && ok;
+    ok = save(window, output, QStringLiteral("main-window-after-autoconfig")) && ok;
+    pvsim_LoadScenario(nullptr);
+
     ok = setLanguage(window, QStringLiteral("de")) && ok;
     window.cameraList()->selectDevice(1001);
     ok = save(window, output, QStringLiteral("main-window-de")) && ok;
