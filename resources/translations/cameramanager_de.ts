@@ -30,6 +30,44 @@
     </message>
 </context>
 <context>
+    <name>ArpProber</name>
+    <message>
+        <location filename="../../src/network/arpprober.cpp" line="+45"/>
+        <source>The adapter %1 has no IPv4 address.</source>
+        <translation>Der Adapter %1 hat keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is not a valid subnet mask for adapter %2.</source>
+        <translation>%1 ist keine gültige Subnetzmaske für den Adapter %2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The address %1 is not on the network of adapter %2 (%3/%4).</source>
+        <translation>Die Adresse %1 liegt nicht im Netz des Adapters %2 (%3/%4).</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The address %1 is the network address of adapter %2 (%3/%4).</source>
+        <translation>Die Adresse %1 ist die Netzadresse des Adapters %2 (%3/%4).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The address %1 is the broadcast address of adapter %2 (%3/%4).</source>
+        <translation>Die Adresse %1 ist die Broadcast-Adresse des Adapters %2 (%3/%4).</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The address %1 is the address of adapter %2 itself.</source>
+        <translation>Die Adresse %1 ist die Adresse des Adapters %2 selbst.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No host answered for %1 on adapter %2 within %3 ms.</source>
+        <translation>Kein Gerät hat innerhalb von %3 ms für %1 am Adapter %2 geantwortet.</translation>
+    </message>
+</context>
+<context>
     <name>Camera</name>
     <message>
         <location filename="../../src/camera/camera.cpp" line="+32"/>
@@ -926,11 +964,341 @@ Rückgabecode: %1</translation>
     </message>
 </context>
 <context>
+    <name>EthConfig</name>
+    <message>
+        <location filename="../../src/network/ethconfigchecks.cpp" line="+14"/>
+        <source>The IP range begin must be less than or equal to the IP range end!</source>
+        <translation>Der Beginn des IP-Bereichs muss kleiner oder gleich dem Ende des IP-Bereichs sein!</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The IP range end must not be equal to the
+broadcast address of the subnet!</source>
+        <translation>Das Ende des IP-Bereichs darf nicht gleich der
+Broadcast-Adresse des Subnetzes sein!</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The IP range end must not be equal to the
+broadcast address of the subnet!
+And the host part of the IP range must not start with 0!</source>
+        <translation>Das Ende des IP-Bereichs darf nicht gleich der
+Broadcast-Adresse des Subnetzes sein!
+Und der Hostanteil des IP-Bereichs darf nicht mit 0 beginnen!</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The host part of the IP range must not start with 0!</source>
+        <translation>Der Hostanteil des IP-Bereichs darf nicht mit 0 beginnen!</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The given address %1 is not a suitable IP for
+the adapter with address %2 / %3!
+Do you want to continue anyway?</source>
+        <translation>Die angegebene Adresse %1 ist keine passende IP für
+den Adapter mit der Adresse %2 / %3!
+Möchten Sie trotzdem fortfahren?</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+50"/>
+        <source>Manual ETH Configuration</source>
+        <translation>Manuelle ETH-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Miscellaneous</source>
+        <translation>Sonstiges</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable DHCP</source>
+        <translation>DHCP aktivieren</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Adapter settings</source>
+        <translation>Adaptereinstellungen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>IP range begin</source>
+        <translation>Beginn des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+21"/>
+        <source>Suggest</source>
+        <translation>Vorschlagen</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>IP range end</source>
+        <translation>Ende des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Device settings</source>
+        <translation>Geräteeinstellungen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Persistent IP</source>
+        <translation>Persistente IP</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Subnetmask</source>
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Multicast settings</source>
+        <translation>Multicast-Einstellungen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Multicast IP</source>
+        <translation>Multicast-IP</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Device ID: %1</source>
+        <translation>Geräte-ID: %1</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>The camera has no persistent IP address and uses an address from the IP range</source>
+        <translation>Die Kamera hat keine persistente IP-Adresse und verwendet eine Adresse aus dem IP-Bereich</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The camera uses the persistent IP address</source>
+        <translation>Die Kamera verwendet die persistente IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Checking IP addresses. Please wait...</source>
+        <translation>IP-Adressen werden geprüft. Bitte warten...</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Checking IP addresses. Please wait...
+%1</source>
+        <translation>IP-Adressen werden geprüft. Bitte warten...
+%1</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Applying settings. Please wait...</source>
+        <translation>Einstellungen werden übernommen. Bitte warten...</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <location line="+58"/>
+        <source>Set persistent IP</source>
+        <translation>Persistente IP setzen</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Checking whether %1 is free...</source>
+        <translation>Es wird geprüft, ob %1 frei ist...</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The address %1 is already used by the device with MAC %2.
+Do you want to use it anyway?</source>
+        <translation>Die Adresse %1 wird bereits vom Gerät mit der MAC %2 verwendet.
+Möchten Sie sie trotzdem verwenden?</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>Setting of the persistent IP address or subnetmask failed.
+Errorcode: %1</source>
+        <translation>Das Setzen der persistenten IP-Adresse oder Subnetzmaske ist fehlgeschlagen.
+Fehlercode: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Setting of the automatic configuration range failed.
+Errorcode: %1</source>
+        <translation>Das Setzen des Bereichs für die automatische Konfiguration ist fehlgeschlagen.
+Fehlercode: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabling / disabling dhcp failed.
+Errorcode: %1</source>
+        <translation>Das Aktivieren / Deaktivieren von DHCP ist fehlgeschlagen.
+Fehlercode: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Setting Multicast IP failed with code %1.
+Likely an invalid IP?</source>
+        <translation>Das Setzen der Multicast-IP ist mit Code %1 fehlgeschlagen.
+Vermutlich eine ungültige IP?</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error enabling Multicast
+code %1</source>
+        <translation>Fehler beim Aktivieren von Multicast
+Code %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>EthConfigSettings</name>
+    <message>
+        <location filename="../../src/network/ethconfigsettings.cpp" line="+15"/>
+        <source>Applying persistent IP settings...</source>
+        <translation>Persistente IP-Einstellungen werden übernommen...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying AutoCfg settings...</source>
+        <translation>AutoCfg-Einstellungen werden übernommen...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying DHCP settings...</source>
+        <translation>DHCP-Einstellungen werden übernommen...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying Multicast IP settings...</source>
+        <translation>Multicast-IP-Einstellungen werden übernommen...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying Multicast Enabled settings...</source>
+        <translation>Multicast-Aktivierung wird übernommen...</translation>
+    </message>
+    <message>
+        <location line="+84"/>
+        <source>Done!</source>
+        <translation>Fertig!</translation>
+    </message>
+</context>
+<context>
     <name>EthServiceBindings</name>
     <message>
         <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
         <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
         <translation>Die Einstellungen des ETH-Dienstes in %1 können nicht geändert werden. Starten Sie die Anwendung mit erhöhten Rechten neu!</translation>
+    </message>
+</context>
+<context>
+    <name>HostArpProber</name>
+    <message>
+        <location filename="../../src/network/hostarpprober_linux.cpp" line="+74"/>
+        <location line="+59"/>
+        <source>The network adapter %1 is not up.</source>
+        <translation>Der Netzwerkadapter %1 ist nicht aktiv.</translation>
+    </message>
+    <message>
+        <location line="-55"/>
+        <source>The network adapter %1 has no link.</source>
+        <translation>Der Netzwerkadapter %1 hat keine Verbindung.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The network adapter %1 does not use ARP.</source>
+        <translation>Der Netzwerkadapter %1 verwendet kein ARP.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The network adapter %1 does not hold the address %2/%3.</source>
+        <translation>Der Netzwerkadapter %1 hat die Adresse %2/%3 nicht.</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Asking for %1 on the network adapter %2 was not permitted: %3</source>
+        <translation>Die Anfrage nach %1 am Netzwerkadapter %2 wurde nicht erlaubt: %3</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
+        <translation>Die ARP-Anfrage nach %1 am Netzwerkadapter %2 ist fehlgeschlagen: %3</translation>
+    </message>
+</context>
+<context>
+    <name>IpChangeFollowUp</name>
+    <message>
+        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+42"/>
+        <source>Waiting for device %1 to come back with its new network settings...</source>
+        <translation>Warten, bis Gerät %1 mit seinen neuen Netzwerkeinstellungen zurückkehrt...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Device %1 is reachable at %2 after %3 s.</source>
+        <translation>Gerät %1 ist nach %3 s unter %2 erreichbar.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The driver does not list the camera any more.</source>
+        <translation>Der Treiber führt die Kamera nicht mehr auf.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+30"/>
+        <source>Network settings</source>
+        <translation>Netzwerkeinstellungen</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Device %1 did not come back with its new network settings within %2 s.
+
+%3
+
+Do you want to restore the settings it had before?</source>
+        <translation>Gerät %1 ist nicht innerhalb von %2 s mit seinen neuen Netzwerkeinstellungen zurückgekehrt.
+
+%3
+
+Möchten Sie die vorherigen Einstellungen wiederherstellen?</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Restoring the previous network settings of device %1...</source>
+        <translation>Die vorherigen Netzwerkeinstellungen von Gerät %1 werden wiederhergestellt...</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The previous network settings of device %1 were restored.</source>
+        <translation>Die vorherigen Netzwerkeinstellungen von Gerät %1 wurden wiederhergestellt.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restoring the previous network settings of device %1 failed.
+Errorcode: %2</source>
+        <translation>Das Wiederherstellen der vorherigen Netzwerkeinstellungen von Gerät %1 ist fehlgeschlagen.
+Fehlercode: %2</translation>
     </message>
 </context>
 <context>
@@ -957,7 +1325,7 @@ Rückgabecode: %1</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+215"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+235"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -982,7 +1350,37 @@ Rückgabecode: %1</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location line="+119"/>
+        <location line="+121"/>
+        <source>Open eth configuration...</source>
+        <translation>ETH-Konfiguration wird geöffnet...</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Setting autoconfiguration. Please wait...
+
+This operation may take up to 10 seconds.</source>
+        <translation>Automatische Konfiguration wird gesetzt. Bitte warten...
+
+Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+2"/>
+        <source>Automatic configuration</source>
+        <translation>Automatische Konfiguration</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Automatic configuration can&apos;t be applied!</source>
+        <translation>Die automatische Konfiguration kann nicht angewendet werden!</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Automatic configuration &amp; Boot boost are not compatible!</source>
+        <translation>Automatische Konfiguration und Boot Boost sind nicht kompatibel!</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>
@@ -1003,6 +1401,19 @@ Rückgabecode: %1</translation>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>Der Dienst %1 konnte nicht beendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedArpProber</name>
+    <message>
+        <location filename="../../src/network/simulatedarpprober.cpp" line="+33"/>
+        <source>The simulated driver refused %1 as a target on adapter %2.</source>
+        <translation>Der simulierte Treiber hat %1 als Ziel am Adapter %2 abgelehnt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The simulated driver&apos;s ARP request for %1 on adapter %2 failed with code %3.</source>
+        <translation>Die ARP-Anfrage des simulierten Treibers nach %1 am Adapter %2 ist mit Code %3 fehlgeschlagen.</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,44 @@
     </message>
 </context>
 <context>
+    <name>ArpProber</name>
+    <message>
+        <location filename="../../src/network/arpprober.cpp" line="+45"/>
+        <source>The adapter %1 has no IPv4 address.</source>
+        <translation>适配器 %1 没有 IPv4 地址。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is not a valid subnet mask for adapter %2.</source>
+        <translation>%1 不是适配器 %2 的有效子网掩码。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The address %1 is not on the network of adapter %2 (%3/%4).</source>
+        <translation>地址 %1 不在适配器 %2 (%3/%4) 的网络中。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The address %1 is the network address of adapter %2 (%3/%4).</source>
+        <translation>地址 %1 是适配器 %2 (%3/%4) 的网络地址。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The address %1 is the broadcast address of adapter %2 (%3/%4).</source>
+        <translation>地址 %1 是适配器 %2 (%3/%4) 的广播地址。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The address %1 is the address of adapter %2 itself.</source>
+        <translation>地址 %1 是适配器 %2 自身的地址。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No host answered for %1 on adapter %2 within %3 ms.</source>
+        <translation>适配器 %2 上没有主机在 %3 毫秒内应答 %1。</translation>
+    </message>
+</context>
+<context>
     <name>Camera</name>
     <message>
         <location filename="../../src/camera/camera.cpp" line="+32"/>
@@ -926,11 +964,341 @@ Return code: %1</source>
     </message>
 </context>
 <context>
+    <name>EthConfig</name>
+    <message>
+        <location filename="../../src/network/ethconfigchecks.cpp" line="+14"/>
+        <source>The IP range begin must be less than or equal to the IP range end!</source>
+        <translation>IP 范围起始必须小于或等于 IP 范围结束！</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The IP range end must not be equal to the
+broadcast address of the subnet!</source>
+        <translation>IP 范围结束不能等于
+子网的广播地址！</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The IP range end must not be equal to the
+broadcast address of the subnet!
+And the host part of the IP range must not start with 0!</source>
+        <translation>IP 范围结束不能等于
+子网的广播地址！
+并且 IP 范围的主机部分不能以 0 开始！</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The host part of the IP range must not start with 0!</source>
+        <translation>IP 范围的主机部分不能以 0 开始！</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The given address %1 is not a suitable IP for
+the adapter with address %2 / %3!
+Do you want to continue anyway?</source>
+        <translation>给定的地址 %1 不适合
+地址为 %2 / %3 的适配器！
+是否仍要继续？</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+50"/>
+        <source>Manual ETH Configuration</source>
+        <translation>手动 ETH 配置</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Miscellaneous</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable DHCP</source>
+        <translation>启用 DHCP</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Adapter settings</source>
+        <translation>适配器设置</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>IP range begin</source>
+        <translation>IP 范围起始地址</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+21"/>
+        <source>Suggest</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <location line="-17"/>
+        <source>IP range end</source>
+        <translation>IP 范围结束地址</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Device settings</source>
+        <translation>设备设置</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Persistent IP</source>
+        <translation>持久 IP</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Subnetmask</source>
+        <translation>子网掩码</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Multicast settings</source>
+        <translation>组播设置</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Multicast IP</source>
+        <translation>组播 IP</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Enable</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Device ID: %1</source>
+        <translation>设备 ID：%1</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>The camera has no persistent IP address and uses an address from the IP range</source>
+        <translation>相机没有持久 IP 地址，使用 IP 范围中的地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The camera uses the persistent IP address</source>
+        <translation>相机使用持久 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Checking IP addresses. Please wait...</source>
+        <translation>正在检查 IP 地址，请稍候...</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Checking IP addresses. Please wait...
+%1</source>
+        <translation>正在检查 IP 地址，请稍候...
+%1</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Applying settings. Please wait...</source>
+        <translation>正在应用设置，请稍候...</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <location line="+58"/>
+        <source>Set persistent IP</source>
+        <translation>设置持久 IP</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Checking whether %1 is free...</source>
+        <translation>正在检查 %1 是否空闲...</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The address %1 is already used by the device with MAC %2.
+Do you want to use it anyway?</source>
+        <translation>地址 %1 已被 MAC 为 %2 的设备使用。
+是否仍要使用？</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>Setting of the persistent IP address or subnetmask failed.
+Errorcode: %1</source>
+        <translation>设置持久 IP 地址或子网掩码失败。
+错误代码：%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Setting of the automatic configuration range failed.
+Errorcode: %1</source>
+        <translation>设置自动配置范围失败。
+错误代码：%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabling / disabling dhcp failed.
+Errorcode: %1</source>
+        <translation>启用/禁用 DHCP 失败。
+错误代码：%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Setting Multicast IP failed with code %1.
+Likely an invalid IP?</source>
+        <translation>设置组播 IP 失败，代码 %1。
+可能是无效的 IP？</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error enabling Multicast
+code %1</source>
+        <translation>启用组播出错
+代码 %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
+    <name>EthConfigSettings</name>
+    <message>
+        <location filename="../../src/network/ethconfigsettings.cpp" line="+15"/>
+        <source>Applying persistent IP settings...</source>
+        <translation>正在应用持久 IP 设置...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying AutoCfg settings...</source>
+        <translation>正在应用 AutoCfg 设置...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying DHCP settings...</source>
+        <translation>正在应用 DHCP 设置...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying Multicast IP settings...</source>
+        <translation>正在应用组播 IP 设置...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Applying Multicast Enabled settings...</source>
+        <translation>正在应用组播启用设置...</translation>
+    </message>
+    <message>
+        <location line="+84"/>
+        <source>Done!</source>
+        <translation>完成！</translation>
+    </message>
+</context>
+<context>
     <name>EthServiceBindings</name>
     <message>
         <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
         <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
         <translation>无法更改 %1 中的 ETH 服务设置。请使用提升的权限重新启动！</translation>
+    </message>
+</context>
+<context>
+    <name>HostArpProber</name>
+    <message>
+        <location filename="../../src/network/hostarpprober_linux.cpp" line="+74"/>
+        <location line="+59"/>
+        <source>The network adapter %1 is not up.</source>
+        <translation>网络适配器 %1 未启用。</translation>
+    </message>
+    <message>
+        <location line="-55"/>
+        <source>The network adapter %1 has no link.</source>
+        <translation>网络适配器 %1 没有连接。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The network adapter %1 does not use ARP.</source>
+        <translation>网络适配器 %1 不使用 ARP。</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The network adapter %1 does not hold the address %2/%3.</source>
+        <translation>网络适配器 %1 没有地址 %2/%3。</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>Asking for %1 on the network adapter %2 was not permitted: %3</source>
+        <translation>不允许在网络适配器 %2 上查询 %1：%3</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
+        <translation>在网络适配器 %2 上对 %1 的 ARP 请求失败：%3</translation>
+    </message>
+</context>
+<context>
+    <name>IpChangeFollowUp</name>
+    <message>
+        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+42"/>
+        <source>Waiting for device %1 to come back with its new network settings...</source>
+        <translation>正在等待设备 %1 以新的网络设置恢复连接...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Device %1 is reachable at %2 after %3 s.</source>
+        <translation>设备 %1 在 %3 秒后可通过 %2 访问。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The driver does not list the camera any more.</source>
+        <translation>驱动程序不再列出该相机。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+30"/>
+        <source>Network settings</source>
+        <translation>网络设置</translation>
+    </message>
+    <message>
+        <location line="-29"/>
+        <source>Device %1 did not come back with its new network settings within %2 s.
+
+%3
+
+Do you want to restore the settings it had before?</source>
+        <translation>设备 %1 未在 %2 秒内以新的网络设置恢复连接。
+
+%3
+
+是否恢复之前的设置？</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Restoring the previous network settings of device %1...</source>
+        <translation>正在恢复设备 %1 之前的网络设置...</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The previous network settings of device %1 were restored.</source>
+        <translation>设备 %1 之前的网络设置已恢复。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Restoring the previous network settings of device %1 failed.
+Errorcode: %2</source>
+        <translation>恢复设备 %1 之前的网络设置失败。
+错误代码：%2</translation>
     </message>
 </context>
 <context>
@@ -957,7 +1325,7 @@ Return code: %1</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+215"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+235"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -982,7 +1350,37 @@ Return code: %1</source>
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location line="+119"/>
+        <location line="+121"/>
+        <source>Open eth configuration...</source>
+        <translation>正在打开 ETH 配置...</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Setting autoconfiguration. Please wait...
+
+This operation may take up to 10 seconds.</source>
+        <translation>正在设置自动配置，请稍候...
+
+此操作最多可能需要 10 秒。</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <location line="+2"/>
+        <source>Automatic configuration</source>
+        <translation>自动配置</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Automatic configuration can&apos;t be applied!</source>
+        <translation>无法应用自动配置！</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Automatic configuration &amp; Boot boost are not compatible!</source>
+        <translation>自动配置与 Boot boost 不兼容！</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
@@ -1003,6 +1401,19 @@ Return code: %1</source>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>无法停止服务 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedArpProber</name>
+    <message>
+        <location filename="../../src/network/simulatedarpprober.cpp" line="+33"/>
+        <source>The simulated driver refused %1 as a target on adapter %2.</source>
+        <translation>模拟驱动程序拒绝将 %1 作为适配器 %2 上的目标。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The simulated driver&apos;s ARP request for %1 on adapter %2 failed with code %3.</source>
+        <translation>模拟驱动程序在适配器 %2 上对 %1 的 ARP 请求失败，代码 %3。</translation>
     </message>
 </context>
 <context>
