@@ -378,6 +378,13 @@ void QCirroCameramanager::onAutoConfig()
     const Camera* camera = currentCamera();
     if (!camera || m_autoConfigWatcher.isRunning())
         return;
+    if (Ipv4::fromText(camera->adapterIp()) == 0 || Ipv4::fromText(camera->adapterMask()) == 0) {
+        QMessageBox::critical(this, tr("Automatic configuration"),
+                              tr("The network adapter of device %1 has no IPv4 address, so there is no subnet to "
+                                 "take a range from.")
+                                  .arg(camera->deviceId()));
+        return;
+    }
     m_autoConfigProgress = new QProgressDialog(
         tr("Setting autoconfiguration. Please wait...\n\nThis operation may take up to 10 seconds."), QString(), 0, 1,
         this);

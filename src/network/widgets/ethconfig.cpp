@@ -218,7 +218,7 @@ void EthConfig::SuggestIP()
             m_lastCandidate = candidate;
             emit nextAddress();
         };
-        return IpSuggestion(*prober).run(candidateProbed, m_cancelSuggestion).address;
+        return IpSuggestion(*prober).run(candidateProbed, m_cancelSuggestion);
     }));
 }
 
@@ -233,7 +233,12 @@ void EthConfig::onNextAddress()
 void EthConfig::onSuggestIPFinished()
 {
     closeProgress();
-    const quint32 result = m_suggestWatcher.result();
+    const IpSuggestion::Outcome outcome = m_suggestWatcher.result();
+    const quint32 result = outcome.address;
+    // Every address taken ends quietly; a search that could not ask says why.
+    const int code = outcome.lastProbe.code();
+    if (result == 0 && code != 0 && code != HostError::NoArpReply && !outcome.cancelled)
+        warn(tr("No free address could be suggested.\n%1").arg(outcome.lastProbe.text()));
     if (result == 0)
         return;
     m_suggestedIp = result;

@@ -3,6 +3,7 @@
 #include "camera/camera.h"
 #include "network/ethcamerasettings.h"
 #include "network/ethconfigsettings.h"
+#include "network/ipsuggestion.h"
 
 #include <QDialog>
 #include <QFutureWatcher>
@@ -85,7 +86,7 @@ private:
     QGroupBox* m_multicastGroup = nullptr;
     QLabel* m_status = nullptr;
     QDialogButtonBox* m_buttons = nullptr;
-    QFutureWatcher<quint32> m_suggestWatcher;
+    QFutureWatcher<IpSuggestion::Outcome> m_suggestWatcher;
     QFutureWatcher<ConfigResult> m_applyWatcher;
     std::shared_ptr<EthConfigSettings> m_settings;
     // Written by the suggestion job, read by the progress dialog.

@@ -75,6 +75,8 @@ QLineEdit* QIpEdit::createField()
     field->setFont(font);
     field->setStyleSheet(QStringLiteral("QLineEdit, QLineEdit:focus { border: none; }"));
     field->setValidator(new IPItemValidator(field));
+    // Pasted text arrives without a key press; it is clamped all the same.
+    connect(field, &QLineEdit::textEdited, this, [this, field] { emit signalTextChanged(field); });
     return field;
 }
 

@@ -1,4 +1,5 @@
 #include "app/widgets/qcirrocameramanager.h"
+#include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 
@@ -349,6 +350,19 @@ void TestMainWindow::automaticConfigurationFailureIsReported()
     child<QPushButton>(*window, "automaticEthConfiguration")->click();
     QTRY_COMPARE(answerer.seen, QStringList{"Automatic configuration: Automatic configuration can't be applied!"});
     QCOMPARE(cameraState(1001).value("persistentIp").toString(), QStringLiteral("10.0.0.11"));
+
+    // Without an adapter address there is no subnet to take the range from.
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "simnet9", "mac": "02:c1:5e:00:00:09"}],
+        "cameras": [{"kind": "eth", "adapter": "simnet9", "mac": "00:1c:c1:00:00:90"}]})"),
+             PV_OK);
+    QTRY_COMPARE(window->cameraList()->model()->rowCount(), 1);
+    QVERIFY(window->cameraList()->selectDevice(1000));
+    QVERIFY(child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    answerer.seen.clear();
+    child<QPushButton>(*window, "automaticEthConfiguration")->click();
+    QTRY_COMPARE(answerer.seen.size(), 1);
+    QCOMPARE(answerer.seen.last(), QStringLiteral("Automatic configuration: The network adapter of device 1000 has no "
+                                                  "IPv4 address, so there is no subnet to take a range from."));
 }
 
 QTEST_MAIN(TestMainWindow)

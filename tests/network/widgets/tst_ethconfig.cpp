@@ -44,6 +44,7 @@ private slots:
     void unsuitableAddressCanBeDeclined();
     void addressOfAnotherDeviceIsQuestioned();
     void failedStepIsReportedAndRetried();
+    void suggestionOnAnAdapterWithoutAddressSaysWhy();
 
 private:
     void open(quint32 deviceId);
@@ -211,6 +212,21 @@ void TestEthConfig::failedStepIsReportedAndRetried()
     QCOMPARE(answerer.seen.size(), 1);
     QCOMPARE(cameraState(1001).value("persistentIp").toString(), QStringLiteral("192.168.50.23"));
     QCOMPARE(cameraState(1001).value("dhcp").toBool(), false);
+}
+
+void TestEthConfig::suggestionOnAnAdapterWithoutAddressSaysWhy()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "simnet9", "mac": "02:c1:5e:00:00:09"}],
+        "cameras": [{"kind": "eth", "adapter": "simnet9", "mac": "00:1c:c1:00:00:90"}]})"),
+             PV_OK);
+    open(1000);
+    MessageBoxAnswerer answerer(QMessageBox::Ok);
+    const QString shown = child<QIpEdit>("persistentIp")->text();
+    child<QPushButton>("suggestIp")->click();
+    QTRY_COMPARE(answerer.seen.size(), 1);
+    QCOMPARE(answerer.seen.first(),
+             QStringLiteral("Warning: No free address could be suggested.\nThe adapter simnet9 has no IPv4 address."));
+    QCOMPARE(child<QIpEdit>("persistentIp")->text(), shown);
 }
 
 QTEST_MAIN(TestEthConfig)
