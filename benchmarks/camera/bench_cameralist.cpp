@@ -8,6 +8,7 @@
 #include "camera/cameralistmodel.h"
 
 #include "benchmarkfleet.h"
+#include "corebenchmarkmain.h"
 #include "samplestatistics.h"
 
 #include <cirro_api.h>
@@ -159,10 +160,5 @@ BENCHMARK(BM_CameraRecordMemory)->Arg(1000)->Iterations(3)->Unit(benchmark::kMil
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
-    Camera::registerMetaTypes();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runCoreBenchmarks(argc, argv);
 }

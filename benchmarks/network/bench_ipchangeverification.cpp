@@ -8,6 +8,7 @@
 #include "network/ipchangeverifier.h"
 #include "network/ipv4.h"
 
+#include "corebenchmarkmain.h"
 #include "samplestatistics.h"
 
 #include <pvsim.h>
@@ -86,10 +87,5 @@ BENCHMARK(BM_RepairToReachable)->Iterations(5)->UseManualTime()->Unit(benchmark:
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
-    Camera::registerMetaTypes();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return runCoreBenchmarks(argc, argv);
 }

@@ -1001,7 +1001,7 @@ den Adapter mit der Adresse %2 / %3!
 Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethconfig.cpp" line="+50"/>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+77"/>
         <source>Manual ETH Configuration</source>
         <translation>Manuelle ETH-Konfiguration</translation>
     </message>
@@ -1026,38 +1026,37 @@ Möchten Sie trotzdem fortfahren?</translation>
         <translation>Adaptereinstellungen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>IP range begin</source>
         <translation>Beginn des IP-Bereichs</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+21"/>
+        <location line="-64"/>
         <source>Suggest</source>
         <translation>Vorschlagen</translation>
     </message>
     <message>
-        <location line="-17"/>
+        <location line="+65"/>
         <source>IP range end</source>
         <translation>Ende des IP-Bereichs</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+9"/>
         <source>Device settings</source>
         <translation>Geräteeinstellungen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Persistent IP</source>
         <translation>Persistente IP</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+1"/>
         <source>Subnetmask</source>
         <translation>Subnetzmaske</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+9"/>
         <source>Multicast settings</source>
         <translation>Multicast-Einstellungen</translation>
     </message>
@@ -1104,7 +1103,13 @@ Möchten Sie trotzdem fortfahren?</translation>
 %1</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+12"/>
+        <source>No free address could be suggested.
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+18"/>
         <source>Applying settings. Please wait...</source>
         <translation>Einstellungen werden übernommen. Bitte warten...</translation>
     </message>
@@ -1355,7 +1360,12 @@ Fehlercode: %2</translation>
         <translation>ETH-Konfiguration wird geöffnet...</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+22"/>
+        <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>Setting autoconfiguration. Please wait...
 
 This operation may take up to 10 seconds.</source>
@@ -1364,7 +1374,8 @@ This operation may take up to 10 seconds.</source>
 Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="-7"/>
+        <location line="+30"/>
         <location line="+2"/>
         <source>Automatic configuration</source>
         <translation>Automatische Konfiguration</translation>

@@ -1001,7 +1001,7 @@ Do you want to continue anyway?</source>
 是否仍要继续？</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethconfig.cpp" line="+50"/>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+77"/>
         <source>Manual ETH Configuration</source>
         <translation>手动 ETH 配置</translation>
     </message>
@@ -1026,38 +1026,37 @@ Do you want to continue anyway?</source>
         <translation>适配器设置</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>IP range begin</source>
         <translation>IP 范围起始地址</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+21"/>
+        <location line="-64"/>
         <source>Suggest</source>
         <translation>建议</translation>
     </message>
     <message>
-        <location line="-17"/>
+        <location line="+65"/>
         <source>IP range end</source>
         <translation>IP 范围结束地址</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+9"/>
         <source>Device settings</source>
         <translation>设备设置</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Persistent IP</source>
         <translation>持久 IP</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+1"/>
         <source>Subnetmask</source>
         <translation>子网掩码</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+9"/>
         <source>Multicast settings</source>
         <translation>组播设置</translation>
     </message>
@@ -1104,7 +1103,13 @@ Do you want to continue anyway?</source>
 %1</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+12"/>
+        <source>No free address could be suggested.
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+18"/>
         <source>Applying settings. Please wait...</source>
         <translation>正在应用设置，请稍候...</translation>
     </message>
@@ -1355,7 +1360,12 @@ Errorcode: %2</source>
         <translation>正在打开 ETH 配置...</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+22"/>
+        <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>Setting autoconfiguration. Please wait...
 
 This operation may take up to 10 seconds.</source>
@@ -1364,7 +1374,8 @@ This operation may take up to 10 seconds.</source>
 此操作最多可能需要 10 秒。</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="-7"/>
+        <location line="+30"/>
         <location line="+2"/>
         <source>Automatic configuration</source>
         <translation>自动配置</translation>

@@ -12,15 +12,6 @@ using namespace SimDriverFixture;
 
 namespace {
 
-QJsonObject adapterState(const QString& name)
-{
-    for (const QJsonValue& adapter : state().value("adapters").toArray()) {
-        if (adapter.toObject().value("name").toString() == name)
-            return adapter.toObject();
-    }
-    return {};
-}
-
 // Settings for camera 1001 (persistent IP outside its adapter's subnet, DHCP
 // on) that would make it reachable, every item changed.
 std::unique_ptr<EthConfigSettings> repairOf1001()

@@ -31,11 +31,38 @@ quint32 swapped(quint32 hostOrder)
     return qFromBigEndian(hostOrder);
 }
 
-QLabel* labelAbove(QGridLayout* grid, int row, QWidget* parent)
+struct LabelledEditor
 {
-    auto* label = new QLabel(parent);
-    grid->addWidget(label, row, 0);
-    return label;
+    QString label;
+    const char* objectName;
+};
+
+struct AddressPair
+{
+    QIpEdit* first;
+    QIpEdit* second;
+    QPushButton* suggest;
+};
+
+// Two address editors, each below its label, and a "Suggest" button beside the first.
+AddressPair addAddressPair(QGroupBox* group, const LabelledEditor& first, const LabelledEditor& second,
+                           const char* suggestName)
+{
+    auto* grid = new QGridLayout(group);
+    AddressPair pair{};
+    int row = 0;
+    for (const LabelledEditor* editor : {&first, &second}) {
+        grid->addWidget(new QLabel(editor->label, group), row++, 0);
+        auto* edit = new QIpEdit(group);
+        edit->setObjectName(QLatin1String(editor->objectName));
+        grid->addWidget(edit, row++, 0);
+        (pair.first ? pair.second : pair.first) = edit;
+    }
+    pair.suggest = new QPushButton(QCoreApplication::translate("EthConfig", "Suggest"), group);
+    pair.suggest->setObjectName(QLatin1String(suggestName));
+    grid->addWidget(pair.suggest, 1, 1);
+    grid->setColumnStretch(0, 1);
+    return pair;
 }
 
 } // namespace
@@ -95,20 +122,11 @@ QGroupBox* EthConfig::buildAdapterGroup()
 {
     m_adapterGroup = new QGroupBox(tr("Adapter settings"), this);
     m_adapterGroup->setObjectName(QStringLiteral("adapterSettings"));
-    auto* grid = new QGridLayout(m_adapterGroup);
-    labelAbove(grid, 0, m_adapterGroup)->setText(tr("IP range begin"));
-    m_rangeBegin = new QIpEdit(m_adapterGroup);
-    m_rangeBegin->setObjectName(QStringLiteral("rangeBegin"));
-    grid->addWidget(m_rangeBegin, 1, 0);
-    auto* suggest = new QPushButton(tr("Suggest"), m_adapterGroup);
-    suggest->setObjectName(QStringLiteral("suggestRange"));
-    connect(suggest, &QPushButton::clicked, this, &EthConfig::SuggestIPRange);
-    grid->addWidget(suggest, 1, 1);
-    labelAbove(grid, 2, m_adapterGroup)->setText(tr("IP range end"));
-    m_rangeEnd = new QIpEdit(m_adapterGroup);
-    m_rangeEnd->setObjectName(QStringLiteral("rangeEnd"));
-    grid->addWidget(m_rangeEnd, 3, 0);
-    grid->setColumnStretch(0, 1);
+    const AddressPair pair = addAddressPair(m_adapterGroup, {tr("IP range begin"), "rangeBegin"},
+                                            {tr("IP range end"), "rangeEnd"}, "suggestRange");
+    m_rangeBegin = pair.first;
+    m_rangeEnd = pair.second;
+    connect(pair.suggest, &QPushButton::clicked, this, &EthConfig::SuggestIPRange);
     return m_adapterGroup;
 }
 
@@ -116,20 +134,11 @@ QGroupBox* EthConfig::buildDeviceGroup()
 {
     m_deviceGroup = new QGroupBox(tr("Device settings"), this);
     m_deviceGroup->setObjectName(QStringLiteral("deviceSettings"));
-    auto* grid = new QGridLayout(m_deviceGroup);
-    labelAbove(grid, 0, m_deviceGroup)->setText(tr("Persistent IP"));
-    m_persistentIp = new QIpEdit(m_deviceGroup);
-    m_persistentIp->setObjectName(QStringLiteral("persistentIp"));
-    grid->addWidget(m_persistentIp, 1, 0);
-    auto* suggest = new QPushButton(tr("Suggest"), m_deviceGroup);
-    suggest->setObjectName(QStringLiteral("suggestIp"));
-    connect(suggest, &QPushButton::clicked, this, &EthConfig::SuggestIP);
-    grid->addWidget(suggest, 1, 1);
-    labelAbove(grid, 2, m_deviceGroup)->setText(tr("Subnetmask"));
-    m_subnetMask = new QIpEdit(m_deviceGroup);
-    m_subnetMask->setObjectName(QStringLiteral("subnetMask"));
-    grid->addWidget(m_subnetMask, 3, 0);
-    grid->setColumnStretch(0, 1);
+    const AddressPair pair = addAddressPair(m_deviceGroup, {tr("Persistent IP"), "persistentIp"},
+                                            {tr("Subnetmask"), "subnetMask"}, "suggestIp");
+    m_persistentIp = pair.first;
+    m_subnetMask = pair.second;
+    connect(pair.suggest, &QPushButton::clicked, this, &EthConfig::SuggestIP);
     return m_deviceGroup;
 }
 

@@ -16,19 +16,6 @@
 
 using namespace SimDriverFixture;
 
-namespace {
-
-QJsonObject adapterState(const QString& name)
-{
-    for (const QJsonValue& adapter : state().value("adapters").toArray()) {
-        if (adapter.toObject().value("name").toString() == name)
-            return adapter.toObject();
-    }
-    return {};
-}
-
-} // namespace
-
 class TestEthConfig : public QObject
 {
     Q_OBJECT
