@@ -1106,7 +1106,8 @@ Möchten Sie trotzdem fortfahren?</translation>
         <location line="+12"/>
         <source>No free address could be suggested.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es konnte keine freie Adresse vorgeschlagen werden.
+%1</translation>
     </message>
     <message>
         <location line="+18"/>
@@ -1362,7 +1363,7 @@ Fehlercode: %2</translation>
     <message>
         <location line="+22"/>
         <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Netzwerkadapter von Gerät %1 hat keine IPv4-Adresse, daher gibt es kein Subnetz, aus dem ein Bereich genommen werden kann.</translation>
     </message>
     <message>
         <location line="+6"/>

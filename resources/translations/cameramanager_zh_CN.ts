@@ -1106,7 +1106,8 @@ Do you want to continue anyway?</source>
         <location line="+12"/>
         <source>No free address could be suggested.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法建议空闲地址。
+%1</translation>
     </message>
     <message>
         <location line="+18"/>
@@ -1362,7 +1363,7 @@ Errorcode: %2</source>
     <message>
         <location line="+22"/>
         <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
-        <translation type="unfinished"></translation>
+        <translation>设备 %1 的网络适配器没有 IPv4 地址，因此没有可用于获取范围的子网。</translation>
     </message>
     <message>
         <location line="+6"/>
