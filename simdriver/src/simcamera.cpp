@@ -266,8 +266,11 @@ void SimCamera::deriveEthernet(const SimAdapter* adapter, const DriverSettings& 
     if (multicastEnabled)
         deviceStatus |= PV_STATUS_MULTICAST_ENABLED;
 
-    const bool reachable = hasAddress && compatible && adapter && adapter->settingsOk() && !adapter->dhcp
-                           && !firmwareCorrupted && !uploading;
+    // Whatever its address, the driver reaches such a camera on the link and
+    // can write its network settings.
+    const bool configurable = compatible && adapter && adapter->settingsOk() && !firmwareCorrupted && !uploading
+                              && !ipChanging;
+    const bool reachable = hasAddress && configurable && !adapter->dhcp;
     const bool bootBoost = settings.bootBoostActiveFor(cameraId);
     if (bootBoost)
         deviceControl |= PV_CONTROL_BOOT_BOOST_ENABLED;
@@ -284,6 +287,8 @@ void SimCamera::deriveEthernet(const SimAdapter* adapter, const DriverSettings& 
         deviceStatus |= PV_STATUS_UNPAIRED;
         if (reachable)
             deviceControl |= PV_CONTROL_AVAILABLE | PV_CONTROL_ACCESSIBLE_1 | PV_CONTROL_ACCESSIBLE_2;
+        else if (configurable)
+            deviceControl |= PV_CONTROL_ACCESSIBLE_2;
     }
 
     if (kind == CameraKind::Eth && settings.starterImage != 0 && starterFirmware != settings.starterImage)

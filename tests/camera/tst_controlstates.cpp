@@ -54,8 +54,8 @@ void TestControlStates::cameraCommands_data()
     QTest::newRow("USB hardware refused") << 4u << true << "";
     QTest::newRow("GigE ready") << 1000u << true << "info more auto upload manual";
     QTest::newRow("GigE ready, ETH service missing") << 1000u << false << "info more upload";
-    // Not accessible to the driver, so its address cannot be written by hand.
-    QTest::newRow("GigE without address") << 1001u << true << "auto";
+    // Not reachable, but the driver can still write its address.
+    QTest::newRow("GigE without address") << 1001u << true << "auto manual";
     QTest::newRow("GigE of another host") << 1003u << true << "";
     QTest::newRow("read-only device") << 1500u << true << "info more";
     QTest::newRow("SDK GigE") << 2001u << true << "info more";

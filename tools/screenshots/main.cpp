@@ -148,8 +148,8 @@ int main(int argc, char* argv[])
     ok = shootEthConfig(window, output) && ok;
     window.cameraList()->selectDevice(1001);
     window.findChild<QPushButton*>(QStringLiteral("automaticEthConfiguration"))->click();
-    auto* status = window.findChild<QLabel*>(QStringLiteral("statusText"));
-    ok = QTest::qWaitFor([status] { return status->text().contains(QStringLiteral("reachable")); }, 10000) && ok;
+    auto* note = window.findChild<QLabel*>(QStringLiteral("networkNote"));
+    ok = QTest::qWaitFor([note] { return note->text().contains(QStringLiteral("reachable")); }, 10000) && ok;
     ok = save(window, output, QStringLiteral("main-window-after-autoconfig")) && ok;
     pvsim_LoadScenario(nullptr);
 

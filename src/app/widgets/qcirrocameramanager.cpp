@@ -29,7 +29,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
@@ -185,7 +184,8 @@ void QCirroCameramanager::makeConnections()
     connect(&m_autoConfigWatcher, &QFutureWatcherBase::finished, this, &QCirroCameramanager::onAutoConfigFinished);
     connect(m_cameraList, &CameraList::cameraListChanged, m_ipChangeFollowUp,
             [this] { m_ipChangeFollowUp->onCameraListChanged(m_cameraList->model()->cameraList()); });
-    connect(m_ipChangeFollowUp, &IpChangeFollowUp::statusMessage, this, &QCirroCameramanager::Printer);
+    connect(m_ipChangeFollowUp, &IpChangeFollowUp::statusMessage, m_statusPanel,
+            [this](const QString& text, const QColor& colour) { m_statusPanel->showNetworkNote(text, colour); });
 }
 
 // One line per handled command; the others keep their buttons
@@ -360,17 +360,20 @@ void QCirroCameramanager::onManualEthConfig()
     if (m_messagesEnabled)
         m_statusPanel->print(tr("Open eth configuration..."), Qt::black, false);
     Camera camera = *selected;
-    QPointer<EthConfig> dialog = new EthConfig(this, &camera);
-    const bool applied = dialog->exec() == QDialog::Accepted;
-    // Closing schedules the dialog's deletion; what it read is still there.
-    if (applied && dialog) {
-        IpChangeVerifier::Expectation expectation{MacAddress::parse(camera.macAddress()),
-                                                  dialog->appliedPersistentIp(), false};
-        expectation.fromRange = expectation.address == 0;
-        m_ipChangeFollowUp->follow(camera, expectation, dialog->initialSettings());
-    }
+    auto* dialog = new EthConfig(this, &camera);
+    // The dialog deletes itself when it closes; take what it applied before.
+    std::optional<IpChangeVerifier::Expectation> expectation;
+    EthCameraSettings before;
+    connect(dialog, &QDialog::accepted, this, [&] {
+        const quint32 address = dialog->appliedPersistentIp();
+        expectation = IpChangeVerifier::Expectation{MacAddress::parse(camera.macAddress()), address, address == 0};
+        before = dialog->initialSettings();
+    });
+    dialog->exec();
     m_cameraList->refreshSelectedCamera();
     updateDetails(false);
+    if (expectation)
+        m_ipChangeFollowUp->follow(camera, *expectation, before);
 }
 
 void QCirroCameramanager::onAutoConfig()

@@ -36,6 +36,8 @@ StatusPanel::StatusPanel(bool elevated, QWidget* parent)
     m_statusText->setMinimumHeight(statusMinimumHeight);
     m_secondStatusLine = wrappingLabel("secondStatusLine", this);
     m_secondStatusLine->hide();
+    m_networkNote = wrappingLabel("networkNote", this);
+    m_networkNote->hide();
     m_cameraPicture = new QLabel(this);
     m_cameraPicture->setObjectName(QStringLiteral("cameraPicture"));
     m_cameraPicture->setFixedSize(cameraPictureSize, cameraPictureSize);
@@ -47,9 +49,10 @@ StatusPanel::StatusPanel(bool elevated, QWidget* parent)
     grid->addWidget(m_busyIndicator, 0, 0);
     grid->addWidget(m_statusText, 0, 1);
     grid->addWidget(m_secondStatusLine, 1, 1);
+    grid->addWidget(m_networkNote, 2, 1);
     if (m_privilegeWarning)
-        grid->addWidget(m_privilegeWarning, 2, 1);
-    grid->addWidget(m_cameraPicture, 0, 2, 3, 1, Qt::AlignTop);
+        grid->addWidget(m_privilegeWarning, 3, 1);
+    grid->addWidget(m_cameraPicture, 0, 2, 4, 1, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
 }
 
@@ -82,6 +85,12 @@ void StatusPanel::showDetails(const StatusAssessment& status, bool hasCamera)
         m_cameraPicture->setPixmap(QIcon(status.picture).pixmap(QSize(cameraPictureSize, cameraPictureSize)));
     m_secondStatusLine->setText(StatusAssessment::fontColoured(QStringLiteral("red"), status.unsupportedWarning));
     m_secondStatusLine->setVisible(!status.unsupportedWarning.isEmpty());
+}
+
+void StatusPanel::showNetworkNote(const QString& text, const QColor& colour)
+{
+    m_networkNote->setText(StatusAssessment::fontColoured(colour.name(), text));
+    m_networkNote->setVisible(!text.isEmpty());
 }
 
 void StatusPanel::retranslate()

@@ -21,6 +21,9 @@ public:
     void print(const QString& text, const QColor& colour, bool showProgress);
     // The second line and the picture of an assessment; no camera clears the picture.
     void showDetails(const StatusAssessment& status, bool hasCamera);
+    // A line of its own for the outcome of the last network change, which
+    // stays while the status text follows the selection.
+    void showNetworkNote(const QString& text, const QColor& colour);
     void retranslate();
 
 private:
@@ -31,5 +34,6 @@ private:
     QLabel* m_statusText = nullptr;
     QLabel* m_secondStatusLine = nullptr;
     QLabel* m_cameraPicture = nullptr;
+    QLabel* m_networkNote = nullptr;
     QLabel* m_privilegeWarning = nullptr;
 };

@@ -36,6 +36,7 @@ public:
     void onCameraListChanged(const QList<std::shared_ptr<Camera>>& cameras);
 
 signals:
+    // busy: the camera is still being followed.
     void statusMessage(const QString& text, const QColor& colour, bool busy);
 
 private:

@@ -2,11 +2,14 @@
 #include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
+#include "network/widgets/ethconfig.h"
+#include "network/widgets/qipedit.h"
 
 #include "messageboxanswerer.h"
 #include "simdriverfixture.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -70,6 +73,7 @@ private slots:
     void commandsWithoutTheirFeatureStayDisabled();
     void deletingAReadOnlyDeviceRemovesIt();
     void automaticConfigurationRepairsACamera();
+    void manualConfigurationWithASuggestedAddress();
     void automaticConfigurationFailureIsReported();
 
 private:
@@ -333,11 +337,38 @@ void TestMainWindow::automaticConfigurationRepairsACamera()
     auto* status = child<QLabel>(*window, "statusText");
     QVERIFY2(status->text().startsWith("<font color='#ff0000'>"), qPrintable(status->text()));
     child<QPushButton>(*window, "automaticEthConfiguration")->click();
-    QTRY_VERIFY_WITH_TIMEOUT(status->text().contains("Device 1001 is reachable at 192.168.50."), 5000);
+    auto* note = child<QLabel>(*window, "networkNote");
+    QTRY_VERIFY_WITH_TIMEOUT(note->text().contains("Device 1001 is reachable at 192.168.50."), 5000);
+    QVERIFY(!note->isHidden());
     // Red turned black: the camera is configured correctly now.
     window->UpdateControls();
     QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Status of device 1001: The camera is configured "
                                             "correctly and can be opened.</font>"));
+}
+
+void TestMainWindow::manualConfigurationWithASuggestedAddress()
+{
+    const auto window = makeWindow();
+    select(*window, 1001);
+    // The dialog runs modally; the user's part is played once it is shown.
+    bool played = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = window->findChild<EthConfig*>();
+        QVERIFY(dialog);
+        dialog->findChild<QPushButton*>("suggestIp")->click();
+        QTRY_COMPARE(dialog->findChild<QIpEdit*>("persistentIp")->text(), QStringLiteral("192.168.50.11"));
+        dialog->findChild<QCheckBox*>("enableDhcp")->setChecked(false);
+        dialog->findChild<QDialogButtonBox*>("buttons")->button(QDialogButtonBox::Ok)->click();
+        played = true;
+    });
+    child<QPushButton>(*window, "manualEthConfiguration")->click();
+    QVERIFY(played);
+    auto* note = child<QLabel>(*window, "networkNote");
+    QTRY_VERIFY2_WITH_TIMEOUT(note->text().contains("Device 1001 is reachable at 192.168.50.11 after"),
+                              qPrintable(note->text()), 5000);
+    auto* status = child<QLabel>(*window, "statusText");
+    window->UpdateControls();
+    QVERIFY2(status->text().contains("The camera is configured correctly"), qPrintable(status->text()));
 }
 
 void TestMainWindow::automaticConfigurationFailureIsReported()
