@@ -197,6 +197,8 @@ void TestSimEthernet::persistentIpRoundTrip()
     const std::uint8_t* mac = before.u.eth.macAddress;
 
     pv_IpBlock block = ipBlock({192, 168, 50, 77}, {255, 255, 255, 0});
+    // Long enough for the address test to be seen, however slow the build.
+    QCOMPARE(pvsim_SetTimeScale(0.2), PV_OK);
     QCOMPARE(pv_IpConfig(byMac ? PV_ADDRESS_BY_MAC : std::int32_t(unconfigured), byMac ? mac : nullptr,
                          PV_IPCFG_SET_PERSISTENT, &block, sizeof block),
              PV_OK);
