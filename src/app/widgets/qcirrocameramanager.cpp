@@ -103,7 +103,7 @@ void QCirroCameramanager::createWidgets()
     setCentralWidget(central);
     m_serviceTimer = new QTimer(this);
     m_commands = new CommandRegistry(this);
-    m_ipChangeFollowUp = new IpChangeFollowUp(this);
+    m_ipChangeFollowUp = new IpChangeFollowUp(this, [this] { return m_cameraList->model()->cameraList(); });
     m_logo = new QLabel(central);
     m_logo->setObjectName(QStringLiteral("logo"));
     m_logo->setPixmap(StartupImages::icon(QStringLiteral(":/images/logo_parvel.png")).pixmap(QSize(160, 48)));
@@ -182,8 +182,7 @@ void QCirroCameramanager::makeConnections()
     connect(m_cameraList, &CameraList::cameraListChanged, this, &QCirroCameramanager::onCameraListChanged);
     connect(m_deviceDetails, &DeviceInfoView::updateNeeded, this, &QCirroCameramanager::onDeviceInfoUpdateNeeded);
     connect(&m_autoConfigWatcher, &QFutureWatcherBase::finished, this, &QCirroCameramanager::onAutoConfigFinished);
-    connect(m_cameraList, &CameraList::cameraListChanged, m_ipChangeFollowUp,
-            [this] { m_ipChangeFollowUp->onCameraListChanged(m_cameraList->model()->cameraList()); });
+    connect(m_cameraList, &CameraList::cameraListChanged, m_ipChangeFollowUp, &IpChangeFollowUp::onCameraListChanged);
     connect(m_ipChangeFollowUp, &IpChangeFollowUp::statusMessage, m_statusPanel,
             [this](const QString& text, const QColor& colour) { m_statusPanel->showNetworkNote(text, colour); });
 }

@@ -16,9 +16,10 @@ QString seconds(qint64 milliseconds)
 
 } // namespace
 
-IpChangeFollowUp::IpChangeFollowUp(QWidget* window)
+IpChangeFollowUp::IpChangeFollowUp(QWidget* window, CameraListSource cameras)
     : QObject(window)
     , m_window(window)
+    , m_cameras(std::move(cameras))
 {
     connect(&m_restoreWatcher, &QFutureWatcherBase::finished, this, &IpChangeFollowUp::onRestoreFinished);
 }
@@ -41,12 +42,13 @@ void IpChangeFollowUp::follow(const Camera& camera, const IpChangeVerifier::Expe
     m_verifier->start();
     emit statusMessage(tr("Waiting for device %1 to come back with its new network settings...").arg(m_deviceId),
                        Qt::black, true);
+    onCameraListChanged();
 }
 
-void IpChangeFollowUp::onCameraListChanged(const QList<std::shared_ptr<Camera>>& cameras)
+void IpChangeFollowUp::onCameraListChanged()
 {
     if (m_verifier)
-        m_verifier->check(cameras);
+        m_verifier->check(m_cameras());
 }
 
 void IpChangeFollowUp::onReachable(const Camera& camera, qint64 elapsedMs)

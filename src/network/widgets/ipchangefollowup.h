@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,14 +27,18 @@ class IpChangeFollowUp final : public QObject
     Q_DISABLE_COPY_MOVE(IpChangeFollowUp)
 
 public:
-    explicit IpChangeFollowUp(QWidget* window);
+    // Where the driver's current camera list comes from.
+    using CameraListSource = std::function<QList<std::shared_ptr<Camera>>()>;
+
+    IpChangeFollowUp(QWidget* window, CameraListSource cameras);
     ~IpChangeFollowUp() override;
 
     // Replaces any camera followed so far. Without a time-out the camera's
     // heartbeat decides it.
     void follow(const Camera& camera, const IpChangeVerifier::Expectation& expectation,
                 const EthCameraSettings& before, std::optional<std::chrono::milliseconds> timeout = {});
-    void onCameraListChanged(const QList<std::shared_ptr<Camera>>& cameras);
+    // Looks at the list again; the camera may have come back already.
+    void onCameraListChanged();
 
 signals:
     // busy: the camera is still being followed.
@@ -45,6 +50,7 @@ private:
     void onRestoreFinished();
 
     QWidget* m_window;
+    CameraListSource m_cameras;
     std::unique_ptr<IpChangeVerifier> m_verifier;
     quint32 m_deviceId = 0;
     MacAddress m_adapterMac;

@@ -361,6 +361,8 @@ void TestMainWindow::manualConfigurationWithASuggestedAddress()
         dialog->findChild<QDialogButtonBox*>("buttons")->button(QDialogButtonBox::Ok)->click();
         played = true;
     });
+    // Answers the offer to restore, should the camera not come back.
+    MessageBoxAnswerer answerer(QMessageBox::No);
     child<QPushButton>(*window, "manualEthConfiguration")->click();
     QVERIFY(played);
     auto* note = child<QLabel>(*window, "networkNote");
