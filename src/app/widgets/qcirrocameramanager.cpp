@@ -13,12 +13,13 @@
 #include "camera/statusassessment.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
-#include "common/elevation.h"
 #include "details/widgets/deviceinfoview.h"
 #include "network/autoconfiguration.h"
 #include "network/ethcamerasettings.h"
 #include "network/ipv4.h"
+#include "common/widgets/elevationprompt.h"
 #include "network/widgets/ethconfig.h"
+#include "network/widgets/ethdaemonconfig.h"
 #include "network/widgets/ipchangefollowup.h"
 
 #include <QCheckBox>
@@ -195,6 +196,7 @@ void QCirroCameramanager::registerCommands()
     m_commands->handleRequest(Command::ManualEthConfiguration, m_cameraList, &CameraList::openIPSettings, this,
                               &QCirroCameramanager::onManualEthConfig);
     m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
+    m_commands->setHandler(Command::EthService, [this] { onEthDaemonConfig(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -420,6 +422,19 @@ void QCirroCameramanager::onAutoConfigFinished()
                                    {MacAddress::parse(m_autoConfigCamera->macAddress()), 0, true}, m_autoConfigBefore);
     }
     m_autoConfigCamera.reset();
+}
+
+void QCirroCameramanager::onEthDaemonConfig()
+{
+    const bool elevated = Elevation::isElevated();
+    if (!elevated)
+        Elevation::request(true, QStringLiteral("--daemon-config"), this);
+    m_ethDaemonDialog = new EthDaemonConfig(this, *m_services, elevated);
+    connect(this, &QCirroCameramanager::CirrodStatusChanged, m_ethDaemonDialog,
+            &EthDaemonConfig::onChangedCirrodStatus);
+    m_ethDaemonDialog->onChangedCirrodStatus(m_serviceStates);
+    m_ethDaemonDialog->exec(); // deletes itself when it closes
+    m_ethDaemonDialog = nullptr;
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

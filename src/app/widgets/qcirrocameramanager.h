@@ -17,6 +17,7 @@ class CameraList;
 class CommandRegistry;
 class ControlArea;
 class DeviceInfoView;
+class EthDaemonConfig;
 class IpChangeFollowUp;
 class QProgressDialog;
 class QComboBox;
@@ -71,6 +72,7 @@ public slots:
     void onManualEthConfig();
     void onAutoConfig();
     void onAutoConfigFinished();
+    void onEthDaemonConfig();
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();
@@ -112,6 +114,7 @@ private:
     QFutureWatcher<quint32> m_autoConfigWatcher;
     QProgressDialog* m_autoConfigProgress = nullptr;
     IpChangeFollowUp* m_ipChangeFollowUp = nullptr;
+    EthDaemonConfig* m_ethDaemonDialog = nullptr; // while it is open
     // The camera of the running automatic configuration, and its settings before.
     camera::optional<Camera> m_autoConfigCamera;
     EthCameraSettings m_autoConfigBefore;

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -20,13 +21,15 @@ namespace Startup {
 
 namespace {
 
-// Neither driver dialog exists in this version: say so rather than ignore the option.
-void openRequestedDialog(CommandLine::Dialog dialog)
+// Opened once the event loop runs, on top of the shown window. The
+// "Additional functions" dialog does not exist in this version: say so rather
+// than ignore the option.
+void openRequestedDialog(QCirroCameramanager& window, CommandLine::Dialog dialog)
 {
-    if (dialog == CommandLine::Dialog::None)
-        return;
-    const char* name = dialog == CommandLine::Dialog::AdditionalFunctions ? "Additional functions" : "Daemon control";
-    std::fprintf(stderr, "The \"%s\" dialog is not available in this version.\n", name);
+    if (dialog == CommandLine::Dialog::DaemonControl)
+        QTimer::singleShot(0, &window, &QCirroCameramanager::onEthDaemonConfig);
+    else if (dialog == CommandLine::Dialog::AdditionalFunctions)
+        std::fprintf(stderr, "The \"Additional functions\" dialog is not available in this version.\n");
 }
 
 // Modal, without parent: the main window does not exist yet.
@@ -44,7 +47,7 @@ int runMainWindow(const CommandLine& commandLine, const AfterShow& afterShow)
         window.show();
         if (afterShow)
             return afterShow(window);
-        openRequestedDialog(commandLine.dialogToOpen());
+        openRequestedDialog(window, commandLine.dialogToOpen());
         return QApplication::exec();
     } catch (const CirroException& e) {
         QMessageBox::critical(nullptr, Identity::applicationName(),
