@@ -1212,6 +1212,233 @@ Code %1</translation>
     </message>
 </context>
 <context>
+    <name>EthDaemonConfig</name>
+    <message>
+        <location filename="../../src/network/ethadaptercontrol.cpp" line="+63"/>
+        <source>Setting Packetfilter failed with code %1</source>
+        <translation>Das Setzen des Paketfilters ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Setting 2k Jumbo Packets failed with code %1</source>
+        <translation>Das Setzen der 2k-Jumbo-Pakete ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The binding is stored, but the ETH service could not look at the adapters again.
+Return code: %1</source>
+        <translation>Die Bindung ist gespeichert, aber der ETH-Dienst konnte die Adapter nicht erneut einlesen.
+Rückgabecode: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+43"/>
+        <source>Network configuration</source>
+        <translation>Netzwerkkonfiguration</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Daemon control</source>
+        <translation>Dienststeuerung</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Network adapters</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Network Adapter</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Status Text</source>
+        <translation>Statustext</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Notes</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>MAC address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Subnetmask</source>
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Apply IP settings</source>
+        <translation>IP-Einstellungen übernehmen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Activate DHCP</source>
+        <translation>DHCP aktivieren</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Pass all</source>
+        <translation>Alle durchlassen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Block CRGET</source>
+        <translation>CRGET blockieren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Block all</source>
+        <translation>Alle blockieren</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Packetfilter</source>
+        <translation>Paketfilter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Use 2k Jumbo Packets</source>
+        <translation>2k-Jumbo-Pakete verwenden</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Disable for this adapter</source>
+        <translation>Für diesen Adapter deaktivieren</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Network adapter(s)</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>To enable/disable the GigE %1 %3 for an adapter, you have to start the %2 with elevated privileges!</source>
+        <translation>Um den GigE-%1-%3 für einen Adapter zu aktivieren oder zu deaktivieren, müssen Sie den %2 mit erhöhten Rechten starten!</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Parvel Camera Manager</source>
+        <translation>Parvel Camera Manager</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The GigE %1 %3 is currently active on %2 network adapters. It should be enabled for all adapters with GigE %1 cameras connected to and disabled for the others. To enable or disable the %3 for an adapter, select this adapter from the list above and click the &apos;enable/disable GigE %1 %3 for this adapter&apos; button below.</source>
+        <translation>Der GigE-%1-%3 ist derzeit auf %2 Netzwerkadaptern aktiv. Er sollte für alle Adapter mit angeschlossenen GigE-%1-Kameras aktiviert und für die anderen deaktiviert sein. Um den %3 für einen Adapter zu aktivieren oder zu deaktivieren, wählen Sie den Adapter in der Liste oben aus und klicken Sie unten auf die Schaltfläche zum Aktivieren/Deaktivieren des GigE-%1-%3 für diesen Adapter.</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Please choose a network adapter from the list</source>
+        <translation>Bitte wählen Sie einen Netzwerkadapter aus der Liste</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <location line="+23"/>
+        <source>Disable for adapter</source>
+        <translation>Für Adapter deaktivieren</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <location line="+23"/>
+        <source>Enable for adapter</source>
+        <translation>Für Adapter aktivieren</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+13"/>
+        <source>Can&apos;t find interface!</source>
+        <translation>Schnittstelle nicht gefunden!</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Setting static ip failed with code %1</source>
+        <translation>Das Setzen der statischen IP ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Setting DHCP enabled failed with code %1</source>
+        <translation>Das Aktivieren von DHCP ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The network adapter is not configured to use packets larger than the normal size of 1,5 KB.
+
+Please set the packet size to at least 2 KB.</source>
+        <translation>Der Netzwerkadapter ist nicht für Pakete größer als die normale Größe von 1,5 KB konfiguriert.
+
+Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Changes on the service failed</source>
+        <translation>Änderungen am Dienst sind fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error stopping the driver!</source>
+        <translation>Fehler beim Beenden des Treibers!</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Error starting the driver!</source>
+        <translation>Fehler beim Starten des Treibers!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>With code: %1</source>
+        <translation>Mit Code: %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Stop ETH service</source>
+        <translation>ETH-Dienst beenden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Start ETH service</source>
+        <translation>ETH-Dienst starten</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB driver service started</source>
+        <translation>USB-Treiberdienst gestartet</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>USB driver service stopped</source>
+        <translation>USB-Treiberdienst beendet</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>EthServiceBindings</name>
     <message>
         <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
@@ -1256,12 +1483,12 @@ Code %1</translation>
 <context>
     <name>IpChangeFollowUp</name>
     <message>
-        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+42"/>
+        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+43"/>
         <source>Waiting for device %1 to come back with its new network settings...</source>
         <translation>Warten, bis Gerät %1 mit seinen neuen Netzwerkeinstellungen zurückkehrt...</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Device %1 is reachable at %2 after %3 s.</source>
         <translation>Gerät %1 ist nach %3 s unter %2 erreichbar.</translation>
     </message>
@@ -1331,7 +1558,7 @@ Fehlercode: %2</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+235"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+236"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -1361,7 +1588,7 @@ Fehlercode: %2</translation>
         <translation>ETH-Konfiguration wird geöffnet...</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+25"/>
         <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
         <translation>Der Netzwerkadapter von Gerät %1 hat keine IPv4-Adresse, daher gibt es kein Subnetz, aus dem ein Bereich genommen werden kann.</translation>
     </message>
@@ -1392,7 +1619,7 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Automatische Konfiguration und Boot Boost sind nicht kompatibel!</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+25"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>
@@ -1439,7 +1666,7 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
 <context>
     <name>StatusPanel</name>
     <message>
-        <location filename="../../src/app/widgets/statuspanel.cpp" line="+94"/>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+103"/>
         <source>The %1 Camera Manager is running with root privileges!</source>
         <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
     </message>
@@ -1639,7 +1866,7 @@ Verwenden Sie eine neuere lib%4!</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+51"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+54"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>Der Kameratreiber hat die Geräteereignisse der Kameraliste abgelehnt.

@@ -1212,6 +1212,233 @@ code %1</source>
     </message>
 </context>
 <context>
+    <name>EthDaemonConfig</name>
+    <message>
+        <location filename="../../src/network/ethadaptercontrol.cpp" line="+63"/>
+        <source>Setting Packetfilter failed with code %1</source>
+        <translation>设置数据包过滤器失败，代码 %1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Setting 2k Jumbo Packets failed with code %1</source>
+        <translation>设置 2k 巨型帧失败，代码 %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The binding is stored, but the ETH service could not look at the adapters again.
+Return code: %1</source>
+        <translation>绑定已保存，但 ETH 服务无法重新扫描适配器。
+返回代码：%1</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+43"/>
+        <source>Network configuration</source>
+        <translation>网络配置</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Daemon control</source>
+        <translation>服务控制</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Network adapters</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Network Adapter</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Status Text</source>
+        <translation>状态文本</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>MAC address</source>
+        <translation>MAC 地址</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Subnetmask</source>
+        <translation>子网掩码</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Apply IP settings</source>
+        <translation>应用 IP 设置</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Activate DHCP</source>
+        <translation>启用 DHCP</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Pass all</source>
+        <translation>全部通过</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Block CRGET</source>
+        <translation>阻止 CRGET</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Block all</source>
+        <translation>全部阻止</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Packetfilter</source>
+        <translation>数据包过滤器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Use 2k Jumbo Packets</source>
+        <translation>使用 2k 巨型帧</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Disable for this adapter</source>
+        <translation>对此适配器禁用</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Network adapter(s)</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>service</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>To enable/disable the GigE %1 %3 for an adapter, you have to start the %2 with elevated privileges!</source>
+        <translation>要为适配器启用/禁用 GigE %1 %3，必须以提升的权限启动 %2！</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Parvel Camera Manager</source>
+        <translation>Parvel Camera Manager</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The GigE %1 %3 is currently active on %2 network adapters. It should be enabled for all adapters with GigE %1 cameras connected to and disabled for the others. To enable or disable the %3 for an adapter, select this adapter from the list above and click the &apos;enable/disable GigE %1 %3 for this adapter&apos; button below.</source>
+        <translation>GigE %1 %3 当前在 %2 个网络适配器上启用。应为所有连接了 GigE %1 相机的适配器启用该%3，并为其他适配器禁用。要为适配器启用或禁用该%3，请在上方列表中选择该适配器，然后单击下方的“为此适配器启用/禁用 GigE %1 %3”按钮。</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Please choose a network adapter from the list</source>
+        <translation>请从列表中选择一个网络适配器</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <location line="+23"/>
+        <source>Disable for adapter</source>
+        <translation>对适配器禁用</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <location line="+23"/>
+        <source>Enable for adapter</source>
+        <translation>对适配器启用</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+13"/>
+        <source>Can&apos;t find interface!</source>
+        <translation>找不到接口！</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Setting static ip failed with code %1</source>
+        <translation>设置静态 IP 失败，代码 %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Setting DHCP enabled failed with code %1</source>
+        <translation>启用 DHCP 失败，代码 %1</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The network adapter is not configured to use packets larger than the normal size of 1,5 KB.
+
+Please set the packet size to at least 2 KB.</source>
+        <translation>网络适配器未配置为使用大于 1.5 KB 标准大小的数据包。
+
+请将数据包大小设置为至少 2 KB。</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Changes on the service failed</source>
+        <translation>更改服务失败</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error stopping the driver!</source>
+        <translation>停止驱动程序出错！</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Error starting the driver!</source>
+        <translation>启动驱动程序出错！</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>With code: %1</source>
+        <translation>代码：%1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Stop ETH service</source>
+        <translation>停止 ETH 服务</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Start ETH service</source>
+        <translation>启动 ETH 服务</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB driver service started</source>
+        <translation>USB 驱动服务已启动</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>USB driver service stopped</source>
+        <translation>USB 驱动服务已停止</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+</context>
+<context>
     <name>EthServiceBindings</name>
     <message>
         <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
@@ -1256,12 +1483,12 @@ code %1</source>
 <context>
     <name>IpChangeFollowUp</name>
     <message>
-        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+42"/>
+        <location filename="../../src/network/widgets/ipchangefollowup.cpp" line="+43"/>
         <source>Waiting for device %1 to come back with its new network settings...</source>
         <translation>正在等待设备 %1 以新的网络设置恢复连接...</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Device %1 is reachable at %2 after %3 s.</source>
         <translation>设备 %1 在 %3 秒后可通过 %2 访问。</translation>
     </message>
@@ -1331,7 +1558,7 @@ Errorcode: %2</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+235"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+236"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -1361,7 +1588,7 @@ Errorcode: %2</source>
         <translation>正在打开 ETH 配置...</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+25"/>
         <source>The network adapter of device %1 has no IPv4 address, so there is no subnet to take a range from.</source>
         <translation>设备 %1 的网络适配器没有 IPv4 地址，因此没有可用于获取范围的子网。</translation>
     </message>
@@ -1392,7 +1619,7 @@ This operation may take up to 10 seconds.</source>
         <translation>自动配置与 Boot boost 不兼容！</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+25"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
@@ -1439,7 +1666,7 @@ This operation may take up to 10 seconds.</source>
 <context>
     <name>StatusPanel</name>
     <message>
-        <location filename="../../src/app/widgets/statuspanel.cpp" line="+94"/>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+103"/>
         <source>The %1 Camera Manager is running with root privileges!</source>
         <translation>%1 相机管理器正在以 root 权限运行！</translation>
     </message>
@@ -1639,7 +1866,7 @@ lib%4_api &lt; %2.%3 配合使用！
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+51"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+54"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>相机驱动程序拒绝了相机列表的设备事件。
