@@ -89,7 +89,7 @@ AdapterDiagnosis AdapterDiagnosis::fromFacts(const Facts& facts, const QHostAddr
                                                : tr("Link up");
     const QString address = facts.ipv4Address.isNull()
                                 ? tr("no IPv4 address")
-                                : tr("%1/%2").arg(facts.ipv4Address.toString(), facts.ipv4Netmask.toString());
+                                : QStringLiteral("%1/%2").arg(facts.ipv4Address.toString(), facts.ipv4Netmask.toString());
     diagnosis.m_status = tr("%1; %2, %3; MTU %4; %5")
                              .arg(link, address, facts.dhcp ? tr("DHCP") : tr("static"))
                              .arg(facts.mtu)
