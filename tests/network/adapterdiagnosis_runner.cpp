@@ -51,8 +51,7 @@ int main(int argc, char** argv)
             findings.append(QJsonObject{{"severity", keyOf(finding.severity())},
                                         {"check", keyOf(finding.check())},
                                         {"problem", finding.problem()},
-                                        {"remedy", finding.remedy()},
-                                        {"summary", finding.summary()}});
+                                        {"remedy", finding.remedy()}});
         }
         results.append(QJsonObject{{"argument", argument},
                                    {"code", diagnosis.result().code()},

@@ -1,5 +1,4 @@
 #include "network/adapterdiagnosis.h"
-#include "network/simulatedadapters.h"
 
 #include "fleetcamera.h"
 #include "netnspairfixture.h"
@@ -10,6 +9,7 @@
 #include <QJsonObject>
 #include <QMetaEnum>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <map>
@@ -23,35 +23,25 @@ QString keyOf(Enum value)
     return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(int(value)));
 }
 
-// "Error PacketSize", in the order given.
-QStringList findingKeys(const QList<AdapterFinding>& findings)
+// "Error PacketSize", in the order given; and the status with every text.
+void summarise(const AdapterDiagnosis& diagnosis, QStringList* keys, QString* texts)
 {
-    QStringList keys;
-    for (const AdapterFinding& finding : findings)
-        keys << keyOf(finding.severity()) + QLatin1Char(' ') + keyOf(finding.check());
-    return keys;
-}
-
-QString allTexts(const QList<AdapterFinding>& findings)
-{
-    QString texts;
-    for (const AdapterFinding& finding : findings)
-        texts += finding.problem() + QLatin1Char('\n') + finding.remedy() + QLatin1Char('\n');
-    return texts;
+    *texts = diagnosis.status() + QLatin1Char('\n');
+    for (const AdapterFinding& finding : diagnosis.findings()) {
+        *keys << keyOf(finding.severity()) + QLatin1Char(' ') + keyOf(finding.check());
+        *texts += finding.problem() + QLatin1Char('\n') + finding.remedy() + QLatin1Char('\n');
+    }
 }
 
 // Every way the driver's view of an adapter can fall short, one per adapter.
 const QByteArray troubledFleet = R"({"adapters": [
-    {"name": "small0", "mac": "02:00:00:00:05:01", "ip": "10.5.0.1", "mask": "255.255.255.0", "mtu": 1500,
+    {"name": "short0", "mac": "02:00:00:00:05:01", "ip": "10.5.0.1", "mask": "255.255.255.0", "mtu": 2075,
      "jumbo2k": false},
-    {"name": "noaddr0", "mac": "02:00:00:00:05:02", "dhcp": true, "bound": false, "linkSpeed": 100},
-    {"name": "ll0", "mac": "02:00:00:00:05:03", "ip": "169.254.10.1", "mask": "255.255.0.0"},
-    {"name": "nolink0", "mac": "02:00:00:00:05:04", "ip": "10.6.0.1", "mask": "255.255.255.0", "mtu": 1500,
-     "linkUp": false},
-    {"name": "short0", "mac": "02:00:00:00:05:05", "ip": "10.7.0.1", "mask": "255.255.255.0", "mtu": 2075},
-    {"name": "enough0", "mac": "02:00:00:00:05:06", "ip": "10.8.0.1", "mask": "255.255.255.0", "mtu": 2076}]})";
-
-const QString namespaceRmemMax = QString::number(16 * 1024 * 1024);
+    {"name": "enough0", "mac": "02:00:00:00:05:02", "ip": "10.7.0.1", "mask": "255.255.255.0", "mtu": 2076},
+    {"name": "noaddr0", "mac": "02:00:00:00:05:03", "dhcp": true, "bound": false, "linkSpeed": 100},
+    {"name": "ll0", "mac": "02:00:00:00:05:04", "ip": "169.254.10.1", "mask": "255.255.0.0"},
+    {"name": "nolink0", "mac": "02:00:00:00:05:05", "ip": "10.6.0.1", "mask": "255.255.255.0", "mtu": 1500,
+     "linkUp": false}]})";
 
 } // namespace
 
@@ -113,27 +103,24 @@ void TestAdapterDiagnosis::simulatedAdapters_data()
     QTest::addColumn<QString>("adapter");
     QTest::addColumn<QString>("camera");
     QTest::addColumn<QStringList>("findings");
-    QTest::addColumn<QString>("status"); // empty: not compared
+    QTest::addColumn<QString>("mentions"); // in the status or the findings' texts
 
+    const QByteArray fleet = troubledFleet;
     QTest::newRow("nothing wrong") << QByteArray() << "simnet0" << QString() << QStringList()
         << "Link up at 1 Gbit/s; 192.168.50.1/255.255.255.0, static; MTU 9000; ETH service bound";
     QTest::newRow("no 2 KB packets from the driver") << QByteArray() << "simnet2" << QString()
-        << QStringList{"Error PacketSize"} << QString();
-    QTest::newRow("MTU too small, whatever the driver sends")
-        << troubledFleet << "small0" << QString() << QStringList{"Error PacketSize"} << QString();
-    QTest::newRow("MTU a byte short of 2 KB packets") << troubledFleet << "short0" << QString()
-        << QStringList{"Error PacketSize"} << QString();
-    QTest::newRow("MTU just enough") << troubledFleet << "enough0" << QString() << QStringList() << QString();
-    QTest::newRow("no address, waiting for DHCP, unbound") << troubledFleet << "noaddr0" << QString()
-        << QStringList{"Error Address"}
-        << "Link up at 100 Mbit/s; no IPv4 address, DHCP; MTU 9000; ETH service not bound";
-    QTest::newRow("link-local address") << troubledFleet << "ll0" << QString()
-        << QStringList{"Warning LinkLocal"} << QString();
-    QTest::newRow("link-local, camera as well") << troubledFleet << "ll0" << "169.254.7.7" << QStringList()
-        << QString();
-    QTest::newRow("no link comes first") << troubledFleet << "nolink0" << QString()
-        << QStringList{"Error Link", "Error PacketSize"} << "No link; 10.6.0.1/255.255.255.0, static; MTU 1500; "
-                                                            "ETH service bound";
+        << QStringList{"Error PacketSize"} << "ETH service's adapter settings";
+    QTest::newRow("MTU a byte short, whatever the driver sends") << fleet << "short0" << QString()
+        << QStringList{"Error PacketSize"} << "MTU of short0 to 9000, or to at least 2076";
+    QTest::newRow("MTU just enough") << fleet << "enough0" << QString() << QStringList() << "MTU 2076";
+    QTest::newRow("no address, waiting for DHCP, unbound") << fleet << "noaddr0" << QString()
+        << QStringList{"Error Address"} << "Link up at 100 Mbit/s; no IPv4 address, DHCP; MTU 9000; ETH service "
+                                           "not bound";
+    QTest::newRow("link-local address") << fleet << "ll0" << QString() << QStringList{"Warning LinkLocal"}
+                                        << "169.254.10.1";
+    QTest::newRow("link-local, camera as well") << fleet << "ll0" << "169.254.7.7" << QStringList() << QString();
+    QTest::newRow("no link comes first") << fleet << "nolink0" << QString()
+        << QStringList{"Error Link", "Error PacketSize"} << "No link; 10.6.0.1/255.255.255.0";
 }
 
 void TestAdapterDiagnosis::simulatedAdapters()
@@ -142,27 +129,19 @@ void TestAdapterDiagnosis::simulatedAdapters()
     QFETCH(QString, adapter);
     QFETCH(QString, camera);
     QFETCH(QStringList, findings);
-    QFETCH(QString, status);
+    QFETCH(QString, mentions);
 
     if (!scenario.isEmpty())
         QCOMPARE(pvsim_LoadScenarioText(scenario.constData()), PV_OK);
     const AdapterDiagnosis diagnosis = AdapterDiagnosis::diagnose(adapter, QHostAddress(camera));
     QVERIFY(diagnosis.result().isSuccess());
-    QCOMPARE(diagnosis.interfaceName(), adapter);
-    QCOMPARE(findingKeys(diagnosis.findings()), findings);
-    if (!status.isEmpty())
-        QCOMPARE(diagnosis.status(), status);
-    for (const AdapterFinding& finding : diagnosis.findings()) {
-        QVERIFY(finding.problem().contains(adapter));
-        QVERIFY(!finding.remedy().isEmpty() && !finding.summary().isEmpty());
-        // Host commands mean nothing for the driver's adapters.
-        QVERIFY2(!finding.remedy().contains(QLatin1String("ip link")), qPrintable(finding.remedy()));
-    }
-    QCOMPARE(diagnosis.mostImportant().has_value(), !findings.isEmpty());
-
-    // The same adapter from the inventory's side, and a name the driver doesn't have.
-    QVERIFY(SimulatedAdapters::current().find(adapter));
-    QCOMPARE(AdapterDiagnosis::diagnose(QStringLiteral("simnet7")).result().code(), int(HostError::UnknownInterface));
+    QStringList keys;
+    QString texts;
+    summarise(diagnosis, &keys, &texts);
+    QCOMPARE(keys, findings);
+    QVERIFY2(texts.contains(mentions), qPrintable(texts));
+    // Host commands mean nothing for the driver's adapters.
+    QVERIFY2(!texts.contains(QLatin1String("ip link")), qPrintable(texts));
 }
 
 void TestAdapterDiagnosis::cameraAdvice_data()
@@ -193,28 +172,25 @@ void TestAdapterDiagnosis::kernelSettings_data()
     QTest::addColumn<QStringList>("findings");
     QTest::addColumn<QString>("mentions");
 
-    const QByteArray roomy = "16777216";
-    QTest::newRow("roomy buffer, no filter") << roomy << QByteArray("0") << QByteArray("0") << QStringList()
-                                             << QString();
-    QTest::newRow("buffer of 8 MiB") << QByteArray("8388608\n") << QByteArray("0") << QByteArray("0")
-                                     << QStringList() << QString();
-    QTest::newRow("buffer a byte short") << QByteArray("8388607") << QByteArray("0") << QByteArray("0")
-                                         << QStringList{"Warning ReceiveBuffer"} << "net.core.rmem_max=8388608";
-    QTest::newRow("kernel's default buffer") << QByteArray("212992") << QByteArray("0") << QByteArray("2")
-                                             << QStringList{"Warning ReceiveBuffer"} << "208 KiB";
+    const QByteArray enough = "8388608\n";
+    const QStringList buffer{"Warning ReceiveBuffer"};
+    const QStringList filter{"Warning ReversePathFilter"};
+    QTest::newRow("buffer of 8 MiB, no filter") << enough << QByteArray("0") << QByteArray("0") << QStringList()
+                                                << QString();
+    QTest::newRow("buffer a byte short") << QByteArray("8388607") << QByteArray("0") << QByteArray("2") << buffer
+                                         << "net.core.rmem_max=8388608";
     QTest::newRow("unreadable buffer") << QByteArray() << QByteArray("0") << QByteArray("0")
                                        << QStringList{"Info ReceiveBuffer"} << "not in this test";
-    QTest::newRow("strict on the adapter") << roomy << QByteArray("0") << QByteArray("1")
-                                           << QStringList{"Warning ReversePathFilter"}
+    QTest::newRow("strict on the adapter") << enough << QByteArray("0") << QByteArray("1") << filter
                                            << "sysctl -w net.ipv4.conf.lo.rp_filter=2";
-    QTest::newRow("strict for all") << roomy << QByteArray("1") << QByteArray("0")
-                                    << QStringList{"Warning ReversePathFilter"} << "net.ipv4.conf.all.rp_filter = 1";
-    QTest::newRow("loose adapter outweighs strict all") << roomy << QByteArray("1") << QByteArray("2")
+    QTest::newRow("strict for all") << enough << QByteArray("1") << QByteArray("0") << filter
+                                    << "net.ipv4.conf.all.rp_filter = 1";
+    QTest::newRow("loose adapter outweighs strict all") << enough << QByteArray("1") << QByteArray("2")
                                                         << QStringList() << QString();
-    QTest::newRow("filter value no number") << roomy << QByteArray("0") << QByteArray("strict")
+    QTest::newRow("filter value no number") << enough << QByteArray("0") << QByteArray("strict")
                                             << QStringList{"Info ReversePathFilter"} << "\"strict\"";
-    QTest::newRow("strict filter before small buffer") << QByteArray("4096") << QByteArray("1") << QByteArray("1")
-        << QStringList{"Warning ReversePathFilter", "Warning ReceiveBuffer"} << "4 KiB";
+    QTest::newRow("filter before buffer") << QByteArray("4096") << QByteArray("1") << QByteArray("1")
+                                          << filter + buffer << "4 KiB";
 }
 
 // Through a reader of its own, on the loopback interface, which is only read.
@@ -237,15 +213,13 @@ void TestAdapterDiagnosis::kernelSettings()
         *contents = found->second;
         return Result();
     };
-    const AdapterDiagnosis diagnosis = AdapterDiagnosis::diagnoseHost(QStringLiteral("lo"), QHostAddress(), read);
-    QVERIFY(diagnosis.result().isSuccess());
-    QList<AdapterFinding> ofSettings = diagnosis.findings();
-    ofSettings.erase(std::remove_if(ofSettings.begin(), ofSettings.end(), [](const AdapterFinding& finding) {
-                         return finding.check() != AdapterFinding::Check::ReversePathFilter
-                                && finding.check() != AdapterFinding::Check::ReceiveBuffer;
-                     }), ofSettings.end());
-    QCOMPARE(findingKeys(ofSettings), findings);
-    QVERIFY2(allTexts(ofSettings).contains(mentions), qPrintable(allTexts(ofSettings)));
+    QStringList keys;
+    QString texts;
+    summarise(AdapterDiagnosis::diagnoseHost(QStringLiteral("lo"), QHostAddress(), read), &keys, &texts);
+    // The loopback interface of the machine that runs the test may show more.
+    keys = keys.filter(QRegularExpression(QStringLiteral("ReversePathFilter|ReceiveBuffer")));
+    QCOMPARE(keys, findings);
+    QVERIFY2(texts.contains(mentions), qPrintable(texts));
 }
 
 void TestAdapterDiagnosis::hostAdaptersInsideNamespace_data()
@@ -284,9 +258,8 @@ void TestAdapterDiagnosis::hostAdaptersInsideNamespace()
     QFETCH(QStringList, findings);
     QFETCH(QString, mentions);
 
-    const auto found = m_hostResults.find(argument);
-    QVERIFY2(found != m_hostResults.end(), qPrintable(argument));
-    const QJsonObject result = found->second;
+    QVERIFY2(m_hostResults.count(argument) == 1, qPrintable(argument));
+    const QJsonObject result = m_hostResults[argument];
     QCOMPARE(result.value("code").toInt(), code);
     QStringList keys;
     QString texts = result.value("status").toString() + QLatin1Char('\n');
@@ -314,7 +287,7 @@ bool TestAdapterDiagnosis::buildNamespace()
     if (!sysctl({"net.ipv4.conf.all.rp_filter=0", "net.ipv4.conf.default.rp_filter=0",
                  "net.ipv4.conf.cirarp0.rp_filter=0"}))
         return false;
-    const QStringList commands{
+    QStringList commands{
         "link set cirarp0 mtu 9000",
         "link add cirmtu0 type veth peer name cirmtu1",
         "address add 10.210.2.1/24 dev cirmtu0",
@@ -329,15 +302,13 @@ bool TestAdapterDiagnosis::buildNamespace()
         // Up without a carrier: its peer stays down.
         "link add cirnol0 mtu 9000 type veth peer name cirnol1",
         "address add 10.210.5.1/24 dev cirnol0",
-        "link set cirnol0 up",
         "link add ciroff0 mtu 9000 type veth peer name ciroff1",
         "address add 10.210.6.1/24 dev ciroff0",
     };
-    QStringList up;
-    for (const char* name : {"cirmtu", "cirrpf", "cirnoad", "cirtwa", "cirtwb"})
-        up << QStringLiteral("link set %1 up").arg(QLatin1String(name) + QLatin1Char('0'))
-           << QStringLiteral("link set %1 up").arg(QLatin1String(name) + QLatin1Char('1'));
-    if (!m_namespaces->ipBatch(m_namespaces->adapterNamespace(), commands + up)) {
+    for (const char* name : {"cirmtu0", "cirmtu1", "cirrpf0", "cirrpf1", "cirnoad0", "cirnoad1", "cirtwa0",
+                             "cirtwa1", "cirtwb0", "cirtwb1", "cirnol0"})
+        commands << QStringLiteral("link set %1 up").arg(QLatin1String(name));
+    if (!m_namespaces->ipBatch(m_namespaces->adapterNamespace(), commands)) {
         qWarning().noquote() << m_namespaces->error();
         return false;
     }
@@ -345,7 +316,8 @@ bool TestAdapterDiagnosis::buildNamespace()
         return false;
 
     QStringList arguments{QStringLiteral("netns"), QStringLiteral("exec"), m_namespaces->adapterNamespace(),
-                          QStringLiteral(ADAPTERDIAGNOSIS_RUNNER), namespaceRmemMax};
+                          QStringLiteral(ADAPTERDIAGNOSIS_RUNNER),
+                          QString::number(AdapterFinding::minimumReceiveBuffer)};
     // One for each row of hostAdaptersInsideNamespace_data().
     arguments << "cirarp0" << "cirmtu0" << "cirrpf0" << "cirnoad0" << "cirtwb0" << "cirtwb0@10.210.4.50"
               << "cirtwa0" << "cirnol0" << "ciroff0" << "cirnone0" << "../lo" << "1";
