@@ -2,6 +2,308 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AdapterDiagnosis</name>
+    <message>
+        <location filename="../../src/network/adapterdiagnosis.cpp" line="+18"/>
+        <source>%1 Gbit/s</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+67"/>
+        <source>Switched off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No link</source>
+        <translation>Keine Verbindung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link up at %1</source>
+        <translation>Verbindung mit %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link up</source>
+        <translation>Verbindung besteht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>no IPv4 address</source>
+        <translation>keine IPv4-Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1; %2, %3; MTU %4; %5</source>
+        <translation>%1; %2, %3; MTU %4; %5</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>static</source>
+        <translation>statisch</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH service bound</source>
+        <translation>ETH-Dienst gebunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ETH service not bound</source>
+        <translation>ETH-Dienst nicht gebunden</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/adapterdiagnosis_linux.cpp" line="+115"/>
+        <source>the system&apos;s routes can&apos;t be read: %1</source>
+        <translation>die Routen des Systems können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the route lookup for %1 failed: %2</source>
+        <translation>die Routenabfrage für %1 ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>interface %1</source>
+        <translation>Schnittstelle %1</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>/proc/sys/%1 holds no number: &quot;%2&quot;</source>
+        <translation>/proc/sys/%1 enthält keine Zahl: „%2“</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>AdapterFinding</name>
+    <message>
+        <location filename="../../src/network/adapterfinding.cpp" line="+11"/>
+        <source>Link</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Route to the cameras</source>
+        <translation>Route zu den Kameras</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Packet size</source>
+        <translation>Paketgröße</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reverse-path filtering</source>
+        <translation>Reverse-Path-Filterung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Link-local address</source>
+        <translation>Link-lokale Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Receive buffer size</source>
+        <translation>Größe des Empfangspuffers</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>%1 not checked: %2</source>
+        <translation>%1 nicht geprüft: %2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The adapter %1 is switched off.</source>
+        <translation>Der Adapter %1 ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch it on: ip link set dev %1 up</source>
+        <translation>Schalten Sie ihn ein: ip link set dev %1 up</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 is switched off: switch it on.</source>
+        <translation>Der Adapter %1 ist ausgeschaltet: Schalten Sie ihn ein.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The adapter %1 has no link.</source>
+        <translation>Der Adapter %1 hat keine Verbindung.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Check the cable, the switch and the cameras&apos; power supply.</source>
+        <translation>Prüfen Sie das Kabel, den Switch und die Stromversorgung der Kameras.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 has no link: check the cable, the switch and the cameras&apos; power supply.</source>
+        <translation>Der Adapter %1 hat keine Verbindung: Prüfen Sie das Kabel, den Switch und die Stromversorgung der Kameras.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The adapter %1 has no IPv4 address: no DHCP server gave it one.</source>
+        <translation>Der Adapter %1 hat keine IPv4-Adresse: Kein DHCP-Server hat ihm eine zugeteilt.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 has no IPv4 address.</source>
+        <translation>Der Adapter %1 hat keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+80"/>
+        <source>Give %1 a static IPv4 address in the cameras&apos; subnet.</source>
+        <translation>Geben Sie %1 eine statische IPv4-Adresse im Subnetz der Kameras.</translation>
+    </message>
+    <message>
+        <location line="-79"/>
+        <source>The adapter %1 has no IPv4 address: give it a static address in the cameras&apos; subnet.</source>
+        <translation>Der Adapter %1 hat keine IPv4-Adresse: Geben Sie ihm eine statische Adresse im Subnetz der Kameras.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Traffic to %1 leaves through %2, which has an address in the same subnet %3, not through %4.</source>
+        <translation>Datenverkehr zu %1 geht über %2, das eine Adresse im selben Subnetz %3 hat, nicht über %4.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Give %1 and %2 addresses in different subnets, or remove the address of the one that serves no cameras.</source>
+        <translation>Geben Sie %1 und %2 Adressen in verschiedenen Subnetzen, oder entfernen Sie die Adresse desjenigen, an dem keine Kameras hängen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Traffic to %1 leaves through %2 instead of %3: give the two adapters different subnets.</source>
+        <translation>Datenverkehr zu %1 geht über %2 statt über %3: Geben Sie den beiden Adaptern verschiedene Subnetze.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The system routes traffic to %1 through %2, not through %3.</source>
+        <translation>Das System leitet Datenverkehr zu %1 über %2, nicht über %3.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove the route that sends %1 to %2 (see: ip route get %1).</source>
+        <translation>Entfernen Sie die Route, die %1 zu %2 leitet (siehe: ip route get %1).</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Traffic to %1 leaves through %2 instead of %3: remove the route that sends it there.</source>
+        <translation>Datenverkehr zu %1 geht über %2 statt über %3: Entfernen Sie die Route, die ihn dorthin leitet.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Set the MTU of %1 to %2, or to at least %3 where the adapter takes no jumbo frames.</source>
+        <translation>Setzen Sie die MTU von %1 auf %2, oder auf mindestens %3, wenn der Adapter keine Jumbo-Frames unterstützt.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>For example: ip link set dev %1 mtu %2</source>
+        <translation>Zum Beispiel: ip link set dev %1 mtu %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The MTU of %1 is %2 bytes, too small for the cameras&apos; 2 KB packets, which need %3.</source>
+        <translation>Die MTU von %1 beträgt %2 Byte, zu wenig für die 2-KB-Pakete der Kameras, die %3 benötigen.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The MTU of %1 (%2) is too small for 2 KB packets: set it to %3, or at least %4.</source>
+        <translation>Die MTU von %1 (%2) ist zu klein für 2-KB-Pakete: Setzen Sie sie auf %3, oder mindestens %4.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The camera driver sends no 2 KB packets on %1, so the cameras there can&apos;t be reached.</source>
+        <translation>Der Kameratreiber sendet auf %1 keine 2-KB-Pakete, daher sind die Kameras dort nicht erreichbar.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch on 2 KB packets for %1 in the ETH service&apos;s adapter settings.</source>
+        <translation>Schalten Sie 2-KB-Pakete für %1 in den Adaptereinstellungen des ETH-Dienstes ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The driver sends no 2 KB packets on %1: switch them on in the ETH service&apos;s adapter settings.</source>
+        <translation>Der Treiber sendet auf %1 keine 2-KB-Pakete: Schalten Sie sie in den Adaptereinstellungen des ETH-Dienstes ein.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Strict reverse-path filtering (%1 = 1) drops camera replies on %2 whose sender the system would reach through another adapter.</source>
+        <translation>Strikte Reverse-Path-Filterung (%1 = 1) verwirft Antworten von Kameras an %2, deren Absender das System über einen anderen Adapter erreichen würde.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Set %1 to 2 (loose): sysctl -w %1=2</source>
+        <translation>Setzen Sie %1 auf 2 (locker): sysctl -w %1=2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set %1 to 2 (loose) or 0: sysctl -w %1=2</source>
+        <translation>Setzen Sie %1 auf 2 (locker) oder 0: sysctl -w %1=2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Strict reverse-path filtering on %1 drops camera replies: set %2 to 2.</source>
+        <translation>Strikte Reverse-Path-Filterung an %1 verwirft Antworten von Kameras: Setzen Sie %2 auf 2.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The adapter %1 has only the link-local address %2; cameras with a fixed address in another subnet can&apos;t be reached.</source>
+        <translation>Der Adapter %1 hat nur die link-lokale Adresse %2; Kameras mit einer festen Adresse in einem anderen Subnetz sind nicht erreichbar.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The adapter %1 has only the link-local address %2: give it a static address in the cameras&apos; subnet.</source>
+        <translation>Der Adapter %1 hat nur die link-lokale Adresse %2: Geben Sie ihm eine statische Adresse im Subnetz der Kameras.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Sockets may take at most %1 of receive buffer (net.core.rmem_max); image streams need %2, which hold about 67 ms of a 1 Gbit/s stream, so that no packets are lost while the receiver is busy.</source>
+        <translation>Sockets dürfen höchstens %1 Empfangspuffer belegen (net.core.rmem_max); Bildströme brauchen %2, die etwa 67 ms eines Stroms mit 1 Gbit/s fassen, damit keine Pakete verloren gehen, während der Empfänger beschäftigt ist.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Raise it: sysctl -w net.core.rmem_max=%1, and keep it in a file below /etc/sysctl.d.</source>
+        <translation>Erhöhen Sie den Wert: sysctl -w net.core.rmem_max=%1, und halten Sie ihn in einer Datei unter /etc/sysctl.d fest.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The largest receive buffer (%1) is too small for image streams: raise net.core.rmem_max to %2.</source>
+        <translation>Der größte Empfangspuffer (%1) ist zu klein für Bildströme: Erhöhen Sie net.core.rmem_max auf %2.</translation>
+    </message>
+</context>
+<context>
     <name>AdapterIpConfig</name>
     <message>
         <location filename="../../src/network/adapteripconfig.cpp" line="+41"/>
@@ -1640,6 +1942,14 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>Der Dienst %1 konnte nicht beendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedAdapters</name>
+    <message>
+        <location filename="../../src/network/simulatedadapters.cpp" line="+108"/>
+        <source>Simulated GigE adapter</source>
+        <translation>Simulierter GigE-Adapter</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,308 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AdapterDiagnosis</name>
+    <message>
+        <location filename="../../src/network/adapterdiagnosis.cpp" line="+18"/>
+        <source>%1 Gbit/s</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <location line="+67"/>
+        <source>Switched off</source>
+        <translation>已关闭</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No link</source>
+        <translation>无链路</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link up at %1</source>
+        <translation>链路已连接，%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Link up</source>
+        <translation>链路已连接</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>no IPv4 address</source>
+        <translation>无 IPv4 地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1; %2, %3; MTU %4; %5</source>
+        <translation>%1；%2，%3；MTU %4；%5</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>static</source>
+        <translation>静态</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ETH service bound</source>
+        <translation>ETH 服务已绑定</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ETH service not bound</source>
+        <translation>ETH 服务未绑定</translation>
+    </message>
+    <message>
+        <location filename="../../src/network/adapterdiagnosis_linux.cpp" line="+115"/>
+        <source>the system&apos;s routes can&apos;t be read: %1</source>
+        <translation>无法读取系统路由：%1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the route lookup for %1 failed: %2</source>
+        <translation>查询 %1 的路由失败：%2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>interface %1</source>
+        <translation>接口 %1</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>/proc/sys/%1 holds no number: &quot;%2&quot;</source>
+        <translation>/proc/sys/%1 中不是数字：“%2”</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>AdapterFinding</name>
+    <message>
+        <location filename="../../src/network/adapterfinding.cpp" line="+11"/>
+        <source>Link</source>
+        <translation>链路</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>IPv4 address</source>
+        <translation>IPv4 地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Route to the cameras</source>
+        <translation>到相机的路由</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Packet size</source>
+        <translation>数据包大小</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reverse-path filtering</source>
+        <translation>反向路径过滤</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Link-local address</source>
+        <translation>链路本地地址</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Receive buffer size</source>
+        <translation>接收缓冲区大小</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 KiB</source>
+        <translation>%1 KiB</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>%1 not checked: %2</source>
+        <translation>%1 未检查：%2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The adapter %1 is switched off.</source>
+        <translation>适配器 %1 已关闭。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch it on: ip link set dev %1 up</source>
+        <translation>请将其打开：ip link set dev %1 up</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 is switched off: switch it on.</source>
+        <translation>适配器 %1 已关闭：请将其打开。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The adapter %1 has no link.</source>
+        <translation>适配器 %1 没有链路。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Check the cable, the switch and the cameras&apos; power supply.</source>
+        <translation>请检查网线、交换机和相机电源。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 has no link: check the cable, the switch and the cameras&apos; power supply.</source>
+        <translation>适配器 %1 没有链路：请检查网线、交换机和相机电源。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The adapter %1 has no IPv4 address: no DHCP server gave it one.</source>
+        <translation>适配器 %1 没有 IPv4 地址：没有 DHCP 服务器为其分配地址。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The adapter %1 has no IPv4 address.</source>
+        <translation>适配器 %1 没有 IPv4 地址。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+80"/>
+        <source>Give %1 a static IPv4 address in the cameras&apos; subnet.</source>
+        <translation>请为 %1 设置相机所在子网中的静态 IPv4 地址。</translation>
+    </message>
+    <message>
+        <location line="-79"/>
+        <source>The adapter %1 has no IPv4 address: give it a static address in the cameras&apos; subnet.</source>
+        <translation>适配器 %1 没有 IPv4 地址：请为其设置相机所在子网中的静态地址。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Traffic to %1 leaves through %2, which has an address in the same subnet %3, not through %4.</source>
+        <translation>发往 %1 的流量经由 %2（其地址位于同一子网 %3）发出，而不是经由 %4。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Give %1 and %2 addresses in different subnets, or remove the address of the one that serves no cameras.</source>
+        <translation>请为 %1 和 %2 设置不同子网中的地址，或删除未连接相机的那个适配器的地址。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Traffic to %1 leaves through %2 instead of %3: give the two adapters different subnets.</source>
+        <translation>发往 %1 的流量经由 %2 而不是 %3 发出：请为这两个适配器设置不同的子网。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The system routes traffic to %1 through %2, not through %3.</source>
+        <translation>系统将发往 %1 的流量路由到 %2，而不是 %3。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove the route that sends %1 to %2 (see: ip route get %1).</source>
+        <translation>请删除将 %1 发往 %2 的路由（参见：ip route get %1）。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Traffic to %1 leaves through %2 instead of %3: remove the route that sends it there.</source>
+        <translation>发往 %1 的流量经由 %2 而不是 %3 发出：请删除该路由。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Set the MTU of %1 to %2, or to at least %3 where the adapter takes no jumbo frames.</source>
+        <translation>请将 %1 的 MTU 设置为 %2；如果适配器不支持巨型帧，则至少设置为 %3。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>For example: ip link set dev %1 mtu %2</source>
+        <translation>例如：ip link set dev %1 mtu %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The MTU of %1 is %2 bytes, too small for the cameras&apos; 2 KB packets, which need %3.</source>
+        <translation>%1 的 MTU 为 %2 字节，对相机的 2 KB 数据包来说太小，需要 %3。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The MTU of %1 (%2) is too small for 2 KB packets: set it to %3, or at least %4.</source>
+        <translation>%1 的 MTU（%2）对 2 KB 数据包来说太小：请设置为 %3，或至少 %4。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The camera driver sends no 2 KB packets on %1, so the cameras there can&apos;t be reached.</source>
+        <translation>相机驱动程序在 %1 上不发送 2 KB 数据包，因此无法访问该适配器上的相机。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch on 2 KB packets for %1 in the ETH service&apos;s adapter settings.</source>
+        <translation>请在 ETH 服务的适配器设置中为 %1 启用 2 KB 数据包。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The driver sends no 2 KB packets on %1: switch them on in the ETH service&apos;s adapter settings.</source>
+        <translation>驱动程序在 %1 上不发送 2 KB 数据包：请在 ETH 服务的适配器设置中启用。</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Strict reverse-path filtering (%1 = 1) drops camera replies on %2 whose sender the system would reach through another adapter.</source>
+        <translation>严格的反向路径过滤（%1 = 1）会丢弃 %2 上那些系统会经由其他适配器访问其发送方的相机应答。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Set %1 to 2 (loose): sysctl -w %1=2</source>
+        <translation>请将 %1 设置为 2（宽松）：sysctl -w %1=2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set %1 to 2 (loose) or 0: sysctl -w %1=2</source>
+        <translation>请将 %1 设置为 2（宽松）或 0：sysctl -w %1=2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Strict reverse-path filtering on %1 drops camera replies: set %2 to 2.</source>
+        <translation>%1 上的严格反向路径过滤会丢弃相机应答：请将 %2 设置为 2。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The adapter %1 has only the link-local address %2; cameras with a fixed address in another subnet can&apos;t be reached.</source>
+        <translation>适配器 %1 只有链路本地地址 %2；无法访问在其他子网中使用固定地址的相机。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The adapter %1 has only the link-local address %2: give it a static address in the cameras&apos; subnet.</source>
+        <translation>适配器 %1 只有链路本地地址 %2：请为其设置相机所在子网中的静态地址。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Sockets may take at most %1 of receive buffer (net.core.rmem_max); image streams need %2, which hold about 67 ms of a 1 Gbit/s stream, so that no packets are lost while the receiver is busy.</source>
+        <translation>套接字最多只能使用 %1 的接收缓冲区（net.core.rmem_max）；图像流需要 %2，可容纳 1 Gbit/s 数据流约 67 毫秒的数据，以免接收方繁忙时丢失数据包。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Raise it: sysctl -w net.core.rmem_max=%1, and keep it in a file below /etc/sysctl.d.</source>
+        <translation>请调高该值：sysctl -w net.core.rmem_max=%1，并将其保存在 /etc/sysctl.d 下的文件中。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The largest receive buffer (%1) is too small for image streams: raise net.core.rmem_max to %2.</source>
+        <translation>最大接收缓冲区（%1）对图像流来说太小：请将 net.core.rmem_max 调高到 %2。</translation>
+    </message>
+</context>
+<context>
     <name>AdapterIpConfig</name>
     <message>
         <location filename="../../src/network/adapteripconfig.cpp" line="+41"/>
@@ -1640,6 +1942,14 @@ This operation may take up to 10 seconds.</source>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>无法停止服务 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatedAdapters</name>
+    <message>
+        <location filename="../../src/network/simulatedadapters.cpp" line="+108"/>
+        <source>Simulated GigE adapter</source>
+        <translation>模拟 GigE 适配器</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,12 @@
 
 namespace sim {
 
+std::string versionText(std::uint32_t version)
+{
+    return std::to_string(PV_VERSION_MAJOR(version)) + '.' + std::to_string(PV_VERSION_MINOR(version)) + '.'
+           + std::to_string(PV_VERSION_BUILD(version));
+}
+
 bool parseApiVersion(const std::string& text, std::uint32_t& version)
 {
     char* end = nullptr;
@@ -35,6 +41,7 @@ Result DriverSettings::apply(const QJsonObject& json)
     if (!api.empty() && !parseApiVersion(api, apiVersion))
         return failure(PV_ERR_INVALID_PARAMETER, "driver: \"apiVersion\" must look like \"4.97\" or \"0x04610000\"");
     reader.readVersion("driverVersion", driverVersion);
+    reader.read("driverDate", driverDate);
     reader.readVersion("starterImage", starterImage);
     reader.readVersion("runtimeImage", runtimeImage);
     reader.readVersion("minStarter", minStarter);

@@ -15,6 +15,7 @@ struct DriverSettings
 {
     std::uint32_t apiVersion = 0x04610000u; // 4.97
     std::uint32_t driverVersion = PV_VERSION(4, 97, 1203);
+    std::string driverDate = "6-12-2025"; // M-D-YYYY, as the host's driver dates
     std::uint32_t starterImage = PV_VERSION(3, 2, 1);
     std::uint32_t runtimeImage = PV_VERSION(4, 97, 1203);
     std::uint32_t minStarter = PV_VERSION(3, 0, 0);
@@ -50,6 +51,9 @@ struct DriverSettings
     }
     bool registryFlag(const std::string& service, const std::string& value) const;
 };
+
+// "4.97.1203"
+std::string versionText(std::uint32_t version);
 
 // "4.97" or "0x04610000" into the version word of pv_QueryApiVersion.
 bool parseApiVersion(const std::string& text, std::uint32_t& version);

@@ -74,7 +74,7 @@ bool Fleet::isVisible(const SimCamera& camera) const
         return settings.usbServiceRunning;
     case CameraKind::Eth: {
         const SimAdapter* a = adapter(camera.adapterName);
-        return settings.ethServiceRunning && a && a->bound;
+        return settings.ethServiceRunning && a && a->bound && a->linkUp;
     }
     case CameraKind::ReadOnly:
         return settings.ethServiceRunning;
@@ -155,6 +155,8 @@ std::optional<MacAddress> Fleet::arpAnswer(const SimAdapter& on, std::uint32_t a
 {
     if (address == on.ip)
         return on.mac;
+    if (!on.linkUp)
+        return std::nullopt;
     for (const auto& [id, camera] : m_cameras) {
         if (camera.kind == CameraKind::Eth && camera.adapterName == on.name && camera.currentIp == address
             && isVisible(camera))
@@ -300,8 +302,8 @@ void Fleet::fillExtended(const SimCamera& camera, pv_ExtendedDeviceInformation& 
     fillDeviceInformation(camera, record.info, elapsedMs);
     if (const SimAdapter* a = adapter(camera.adapterName)) {
         copyUtf16(record.adapterDescription, "Virtual GigE adapter " + a->name);
-        copyUtf16(record.adapterDriverVersion, "4.97.1203");
-        copyUtf16(record.adapterDriverDate, "6-12-2025");
+        copyUtf16(record.adapterDriverVersion, versionText(settings.driverVersion));
+        copyUtf16(record.adapterDriverDate, settings.driverDate);
     }
     copyUtf16(record.usbLocation, camera.portPath);
 }

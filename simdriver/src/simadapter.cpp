@@ -16,6 +16,7 @@ Result SimAdapter::apply(const QJsonObject& json)
     reader.readIp("mask", mask);
     reader.readIp("gateway", gateway);
     reader.readInt("linkSpeed", linkSpeed, 10, 100000);
+    reader.read("linkUp", linkUp);
     reader.read("dhcp", dhcp);
     reader.readInt("mtu", mtu, 576, 65536);
     reader.read("jumbo2k", jumbo2k);
@@ -89,7 +90,7 @@ void SimAdapter::fillBlock(pv_AdapterBlock& block, std::uint32_t devicesKnown, s
     block.packetFilter = packetFilter;
     block.packetSize = driverPacketSize();
     block.jumbo2k = jumbo2k;
-    block.linkSpeed = linkSpeed;
+    block.linkSpeed = linkUp ? linkSpeed : 0;
     block.devicesKnown = devicesKnown;
     block.devicesPaired = devicesPaired;
     block.rangeBegin = NetAddress::toApiWord(rangeBegin);

@@ -21,6 +21,7 @@ struct SimAdapter
     std::uint32_t mask = 0;
     std::uint32_t gateway = 0;
     std::uint32_t linkSpeed = 1000; // Mbit/s
+    bool linkUp = true;               // a cable to a live switch or camera
     bool dhcp = false;
     std::uint32_t mtu = 9000; // largest frame payload the adapter itself takes
     bool jumbo2k = true;      // the driver sends 2 KB packets
@@ -44,8 +45,10 @@ struct SimAdapter
     bool isOtherHost(std::uint32_t address) const;
     // The MAC an other host answers with: locally administered, 02:00 and the address.
     static MacAddress otherHostMac(std::uint32_t address);
+    // A 2 KB packet payload plus its IPv4 and UDP headers.
+    static constexpr std::uint32_t minimumJumboMtu = 2048 + 20 + 8;
     // Packets are large enough for the cameras only with 2 KB jumbo packets on.
-    bool settingsOk() const { return jumbo2k && mtu >= 2048; }
+    bool settingsOk() const { return jumbo2k && mtu >= minimumJumboMtu; }
     std::uint32_t driverPacketSize() const { return jumbo2k ? 2048u : 1450u; }
     bool matches(const pv_AdapterId& id) const;
     void fillBlock(pv_AdapterBlock& block, std::uint32_t devicesKnown, std::uint32_t devicesPaired) const;

@@ -41,12 +41,6 @@ void copyText(char (&target)[N], const std::string& text)
     std::memcpy(target, text.data(), std::min(text.size(), N - 1));
 }
 
-std::string versionText(std::uint32_t version)
-{
-    return std::to_string(PV_VERSION_MAJOR(version)) + '.' + std::to_string(PV_VERSION_MINOR(version)) + '.'
-           + std::to_string(PV_VERSION_BUILD(version));
-}
-
 // Counters that grow while the camera is connected, as a driver's would.
 std::uint32_t heartbeats(std::uint32_t elapsedMs, std::uint32_t periodMs)
 {

@@ -54,10 +54,14 @@ QJsonObject adapterReport(const SimAdapter& adapter)
         hosts.append(range.first == range.last ? ip(range.first) : ip(range.first) + '-' + ip(range.last));
     return QJsonObject{
         {"name", QString::fromStdString(adapter.name)},
+        {"id", qint64(adapter.adapterId)},
         {"mac", QString::fromStdString(NetAddress::formatMac(adapter.mac))},
         {"ip", ip(adapter.ip)},
         {"mask", ip(adapter.mask)},
         {"linkSpeed", qint64(adapter.linkSpeed)},
+        {"linkUp", adapter.linkUp},
+        {"mtu", qint64(adapter.mtu)},
+        {"multicastEnabled", adapter.multicastEnabled},
         {"bound", adapter.bound},
         {"dhcp", adapter.dhcp},
         {"jumbo2k", adapter.jumbo2k},
@@ -78,6 +82,8 @@ QJsonObject settingsReport(const DriverSettings& settings)
         registry.insert(QString::fromStdString(key), QString::fromStdString(value));
     return QJsonObject{
         {"apiVersion", QStringLiteral("%1.%2").arg(PV_VERSION_MAJOR(settings.apiVersion)).arg(PV_VERSION_MINOR(settings.apiVersion))},
+        {"driverVersion", version(settings.driverVersion)},
+        {"driverDate", QString::fromStdString(settings.driverDate)},
         {"starterImage", version(settings.starterImage)},
         {"arpTimeoutMs", qint64(settings.arpTimeoutMs)},
         {"ipChangeMs", qint64(settings.ipChangeMs)},

@@ -1,6 +1,7 @@
 #include "network/networkadapters.h"
 
 #include "network/networkadapters_p.h"
+#include "network/simulatedadapters.h"
 
 #include <QNetworkAddressEntry>
 #include <QNetworkInterface>
@@ -31,8 +32,8 @@ NetworkAdapter adapterFrom(const QNetworkInterface& interface)
     adapter.interfaceName = interface.name();
     adapter.hardwareAddress = interface.hardwareAddress();
 
-    const AdapterDriverInfo driver = getAdapterDriverInfo(adapter.interfaceName);
-    adapter.description = getAdapterDescription(adapter.interfaceName);
+    const AdapterDriverInfo driver = hostAdapterDriverInfo(adapter.interfaceName);
+    adapter.description = hostAdapterDescription(adapter.interfaceName);
     adapter.driverVersion = driver.version;
     adapter.driverDate = driver.date;
     adapter.flags = interface.flags();
@@ -53,6 +54,9 @@ NetworkAdapterList getNetworkAdapters()
     NetworkAdapterList adapters;
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces())
         adapters.append(adapterFrom(interface));
+    const SimulatedAdapters simulated = SimulatedAdapters::current();
+    for (const SimulatedAdapters::Adapter& adapter : simulated.adapters())
+        adapters.append(simulated.record(adapter));
     return adapters;
 }
 
@@ -61,6 +65,9 @@ QPair<QString, QString> findAdapterByMac(const QString& mac)
     // Interfaces without a hardware address (tunnels) must not match nothing.
     if (mac.isEmpty())
         return {};
+    const SimulatedAdapters simulated = SimulatedAdapters::current();
+    if (const SimulatedAdapters::Adapter* adapter = simulated.findByMac(mac))
+        return {adapter->name, adapter->name};
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
         if (interface.hardwareAddress().compare(mac, Qt::CaseSensitive) == 0)
             return {interface.humanReadableName(), interface.name()};
@@ -68,8 +75,26 @@ QPair<QString, QString> findAdapterByMac(const QString& mac)
     return {};
 }
 
+QString getAdapterDescription(const QString& interfaceName)
+{
+    const SimulatedAdapters simulated = SimulatedAdapters::current();
+    return simulated.find(interfaceName) ? simulated.description() : hostAdapterDescription(interfaceName);
+}
+
+AdapterDriverInfo getAdapterDriverInfo(const QString& interfaceName)
+{
+    const SimulatedAdapters simulated = SimulatedAdapters::current();
+    return simulated.find(interfaceName) ? simulated.driverInfo() : hostAdapterDriverInfo(interfaceName);
+}
+
 Result getAdapterIndex(const QString& interfaceName, int& index, bool& dhcp)
 {
+    const SimulatedAdapters simulated = SimulatedAdapters::current();
+    if (const SimulatedAdapters::Adapter* adapter = simulated.find(interfaceName)) {
+        index = adapter->index;
+        dhcp = adapter->dhcp;
+        return {};
+    }
     const QNetworkInterface interface = QNetworkInterface::interfaceFromName(interfaceName);
     if (!interface.isValid())
         return NetworkFailure::unknownInterface(interfaceName);

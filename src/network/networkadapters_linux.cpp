@@ -7,12 +7,12 @@
 #include "network/networkmanagerclient_linux.h"
 #include "network/sysfsnetdevice_linux.h"
 
-QString getAdapterDescription(const QString& interfaceName)
+QString hostAdapterDescription(const QString& interfaceName)
 {
     return AdapterDescription::system().describe(interfaceName, EthtoolDriverInfo::query(interfaceName).driver);
 }
 
-AdapterDriverInfo getAdapterDriverInfo(const QString& interfaceName)
+AdapterDriverInfo hostAdapterDriverInfo(const QString& interfaceName)
 {
     AdapterDriverInfo info = EthtoolDriverInfo::query(interfaceName);
     const QString module = SysfsNetDevice(QStringLiteral("/sys"), interfaceName).driverModule();

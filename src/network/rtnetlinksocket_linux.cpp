@@ -188,6 +188,47 @@ int RtnetlinkSocket::ipv4Neighbours(int interfaceIndex, QVector<Ipv4Neighbour>* 
     });
 }
 
+int RtnetlinkSocket::routeInterface(quint32 destination, int* interfaceIndex)
+{
+    struct
+    {
+        nlmsghdr header;
+        rtmsg message;
+        alignas(NLMSG_ALIGNTO) char attributes[RTA_SPACE(sizeof(quint32))];
+    } request{};
+    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
+    request.header.nlmsg_type = RTM_GETROUTE;
+    // Without a dump the kernel ends its answer with an acknowledgement only
+    // when asked for one.
+    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_ACK;
+    request.message.rtm_family = AF_INET;
+    request.message.rtm_dst_len = 32;
+    appendAttribute(&request.header, RTA_DST, htonl(destination));
+    if (const int error = send(&request, request.header.nlmsg_len))
+        return error;
+    int found = 0;
+    const int error = receive([&](const nlmsghdr* header) {
+        if (header->nlmsg_type != RTM_NEWROUTE || header->nlmsg_len < NLMSG_LENGTH(sizeof(rtmsg)))
+            return;
+        const auto* message = static_cast<const rtmsg*>(NLMSG_DATA(header));
+        auto* attribute = reinterpret_cast<const rtattr*>(RTM_RTA(message));
+        auto remaining = static_cast<unsigned int>(RTM_PAYLOAD(header));
+        for (; RTA_OK(attribute, remaining); attribute = RTA_NEXT(attribute, remaining)) {
+            if (attribute->rta_type == RTA_OIF && RTA_PAYLOAD(attribute) == sizeof(quint32)) {
+                quint32 index = 0;
+                std::memcpy(&index, RTA_DATA(attribute), sizeof index);
+                found = int(index);
+            }
+        }
+    });
+    if (error)
+        return error;
+    if (found == 0)
+        return ENETUNREACH;
+    *interfaceIndex = found;
+    return 0;
+}
+
 int RtnetlinkSocket::waitForNeighbourChanges(std::chrono::milliseconds timeout, QVector<Ipv4Neighbour>* changes)
 {
     if (m_fd < 0)

@@ -8,8 +8,8 @@
 
 struct nlmsghdr;
 
-// IPv4 addresses and neighbour entries of an interface through a
-// NETLINK_ROUTE socket. Changes need CAP_NET_ADMIN in the socket's network
+// IPv4 addresses, neighbour entries and route lookups through a NETLINK_ROUTE
+// socket. Changes need CAP_NET_ADMIN in the socket's network
 // namespace; reading and listening do not. Functions return 0 or an errno
 // value.
 class RtnetlinkSocket final
@@ -49,6 +49,11 @@ public:
     int deleteIpv4(int interfaceIndex, const Ipv4Address& address);
 
     int ipv4Neighbours(int interfaceIndex, QVector<Ipv4Neighbour>* neighbours);
+
+    // The interface through which the kernel would send to destination (host
+    // order), as `ip route get` asks; the lookup itself sends nothing. For a
+    // local address that is the loopback interface.
+    int routeInterface(quint32 destination, int* interfaceIndex);
     // On a socket opened with Subscription::NeighbourChanges: waits up to
     // timeout for the kernel's next notifications and appends the IPv4 ones,
     // in their order; none when the time passes. ENOBUFS means that

@@ -1,6 +1,8 @@
 #include "network/adapteripconfig.h"
 #include "network/networkadapters.h"
 
+#include <pvsim.h>
+
 #include <QProcess>
 #include <QScopeGuard>
 #include <QtTest>
@@ -64,17 +66,26 @@ class TestNetworkAdapters : public QObject
     Q_OBJECT
 
 private slots:
+    void init();
     void loopbackInQtsOrder();
+    void virtualAdaptersOfTheSimulatedDriver_data();
+    void virtualAdaptersOfTheSimulatedDriver();
     void notAnInterface_data();
     void notAnInterface();
     void insideNetworkNamespace();
 };
+
+void TestNetworkAdapters::init()
+{
+    QCOMPARE(pvsim_LoadScenario(nullptr), PV_OK);
+}
 
 void TestNetworkAdapters::loopbackInQtsOrder()
 {
     QStringList expected;
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces())
         expected << interface.name();
+    expected << "simnet0" << "simnet1" << "simnet2"; // the default fleet's
     QStringList listed;
     for (const NetworkAdapter& adapter : getNetworkAdapters())
         listed << adapter.interfaceName;
@@ -93,6 +104,65 @@ void TestNetworkAdapters::loopbackInQtsOrder()
     QVERIFY(getAdapterIndex(QStringLiteral("lo"), index, dhcp).isSuccess());
     QCOMPARE(index, int(::if_nametoindex("lo")));
     QVERIFY(!dhcp);
+}
+
+void TestNetworkAdapters::virtualAdaptersOfTheSimulatedDriver_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("mac");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("mask");
+    QTest::addColumn<bool>("dhcp");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<int>("index");
+
+    const int up = QNetworkInterface::IsUp | QNetworkInterface::CanBroadcast;
+    QTest::newRow("static, with link")
+        << "vnet0" << "02:C1:5E:00:0A:01" << "10.44.0.1" << "255.255.0.0" << false
+        << (up | QNetworkInterface::IsRunning | QNetworkInterface::CanMulticast) << 1;
+    QTest::newRow("DHCP without address, link or multicast")
+        << "vnet1" << "02:C1:5E:00:0A:0B" << QString() << QString() << true << up << 2;
+}
+
+void TestNetworkAdapters::virtualAdaptersOfTheSimulatedDriver()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, mac);
+    QFETCH(QString, address);
+    QFETCH(QString, mask);
+    QFETCH(bool, dhcp);
+    QFETCH(int, flags);
+    QFETCH(int, index);
+
+    QCOMPARE(pvsim_LoadScenarioText(R"({"driver": {"driverVersion": "4.98.7", "driverDate": "3-4-2026"},
+        "adapters": [
+            {"name": "vnet0", "mac": "02:c1:5e:00:0a:01", "ip": "10.44.0.1", "mask": "255.255.0.0"},
+            {"name": "vnet1", "mac": "02-c1-5e-00-0a-0b", "dhcp": true, "linkUp": false,
+             "multicastEnabled": false}]})"),
+             PV_OK);
+    const NetworkAdapter adapter = adapterNamed(name);
+    QCOMPARE(adapter.interfaceName, name);
+    QCOMPARE(adapter.humanReadableName, name);
+    QCOMPARE(adapter.description, QStringLiteral("Simulated GigE adapter"));
+    QCOMPARE(adapter.hardwareAddress, mac);
+    QCOMPARE(adapter.ipv4Address, address.isEmpty() ? QHostAddress() : QHostAddress(address));
+    QCOMPARE(adapter.ipv4Netmask, mask.isEmpty() ? QHostAddress() : QHostAddress(mask));
+    QCOMPARE(adapter.dhcp, dhcp);
+    QCOMPARE(int(adapter.flags), flags);
+    QCOMPARE(adapter.driverVersion, QStringLiteral("4.98.7"));
+    QCOMPARE(adapter.driverDate, QStringLiteral("3-4-2026"));
+
+    QCOMPARE(::findAdapterByMac(mac), qMakePair(name, name));
+    QCOMPARE(::findAdapterByMac(mac.toLower()), qMakePair(QString(), QString()));
+    QCOMPARE(getAdapterDescription(name), adapter.description);
+    const AdapterDriverInfo driver = getAdapterDriverInfo(name);
+    QCOMPARE(driver.version, adapter.driverVersion);
+    QCOMPARE(driver.date, adapter.driverDate);
+    int foundIndex = 0;
+    bool foundDhcp = !dhcp;
+    QVERIFY(getAdapterIndex(name, foundIndex, foundDhcp).isSuccess());
+    QCOMPARE(foundIndex, index);
+    QCOMPARE(foundDhcp, dhcp);
 }
 
 void TestNetworkAdapters::notAnInterface_data()
@@ -172,7 +242,8 @@ void TestInsideNamespace::initTestCase()
 
 void TestInsideNamespace::adaptersOfTheNamespace()
 {
-    QCOMPARE(getNetworkAdapters().size(), 3);
+    // lo, the veth pair and the default fleet's three virtual adapters
+    QCOMPARE(getNetworkAdapters().size(), 3 + 3);
     const NetworkAdapter lo = adapterNamed(QStringLiteral("lo"));
     QVERIFY(lo.ipv4Address.isNull() && lo.ipv4Netmask.isNull() && !lo.dhcp);
 

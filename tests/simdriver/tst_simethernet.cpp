@@ -148,7 +148,9 @@ private slots:
     void readOnlyDevices();
     void readOnlyMulticastSwitch();
     void adapterJumboPacketsAndFilter();
-    void adapterFramesTooSmallForJumboPackets();
+    void adapterFramesForJumboPackets_data();
+    void adapterFramesForJumboPackets();
+    void adapterWithoutLinkHidesItsCameras();
     void stoppedServiceHidesGigE();
     void unboundAdapterHidesItsCameras();
     void arpRequests_data();
@@ -513,25 +515,64 @@ void TestSimEthernet::adapterJumboPacketsAndFilter()
     QVERIFY(!(deviceInfo(noJumboCamera).deviceControlStatus & PV_CONTROL_AVAILABLE));
 }
 
-void TestSimEthernet::adapterFramesTooSmallForJumboPackets()
+void TestSimEthernet::adapterFramesForJumboPackets_data()
 {
-    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "small0", "mac": "02:00:00:00:05:01",
-        "ip": "10.5.0.1", "mask": "255.255.255.0", "mtu": 1500}],
+    QTest::addColumn<int>("mtu");
+    QTest::addColumn<bool>("adapterOk");
+    QTest::newRow("standard Ethernet") << 1500 << false;
+    QTest::newRow("2 KB, but no room for the headers") << 2048 << false;
+    QTest::newRow("one byte short") << 2075 << false;
+    QTest::newRow("payload and headers") << 2076 << true;
+}
+
+void TestSimEthernet::adapterFramesForJumboPackets()
+{
+    QFETCH(int, mtu);
+    QFETCH(bool, adapterOk);
+    QCOMPARE(pvsim_LoadScenarioText(QByteArray(R"({"adapters": [{"name": "small0", "mac": "02:00:00:00:05:01",
+        "ip": "10.5.0.1", "mask": "255.255.255.0", "mtu": )" + QByteArray::number(mtu) + R"(}],
         "cameras": [{"kind": "eth", "adapter": "small0", "mac": "00:1c:c1:00:05:01",
-                     "persistentIp": "10.5.0.10", "persistentMask": "255.255.255.0"}]})"),
+                     "persistentIp": "10.5.0.10", "persistentMask": "255.255.255.0"}]})").constData()),
              PV_OK);
+    QCOMPARE(adapterState("small0").value("mtu").toInt(), mtu);
     pv_AdapterId small0 = adapterNamed("small0");
-    pv_PacketSize size{};
-    QCOMPARE(pv_EthAdapterConfig(&small0, PV_ADAPTER_GET, PV_ADAPTERCFG_PACKET_SIZE, &size, sizeof size), PV_OK);
-    QVERIFY(size.current < 2048);
-    QVERIFY(size.maximum >= size.current);
-    std::uint32_t word = 1;
+    std::uint32_t word = 0;
     QCOMPARE(pv_EthAdapterConfig(&small0, PV_ADAPTER_GET, PV_ADAPTERCFG_JUMBO_2K, &word, sizeof word), PV_OK);
     QCOMPARE(word, 1u);
-    // 2k packets on, but the adapter's frames can't carry them.
+    // 2k packets on; whether the adapter's packets can carry them is the MTU's matter.
     const pv_DeviceInformation info = deviceInfo(PV_ETH_DEVICE_FIRST);
-    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_ADAPTER_OK));
-    QVERIFY(!(info.deviceControlStatus & PV_CONTROL_AVAILABLE));
+    QCOMPARE(bool(info.deviceControlStatus & PV_CONTROL_ADAPTER_OK), adapterOk);
+    QCOMPARE(bool(info.deviceControlStatus & PV_CONTROL_AVAILABLE), adapterOk);
+    pv_PacketSize size{};
+    QCOMPARE(pv_EthAdapterConfig(&small0, PV_ADAPTER_GET, PV_ADAPTERCFG_PACKET_SIZE, &size, sizeof size), PV_OK);
+    QCOMPARE(size.current, std::uint32_t(mtu));
+    QVERIFY(size.maximum >= size.current);
+}
+
+void TestSimEthernet::adapterWithoutLinkHidesItsCameras()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [
+        {"name": "nolink0", "mac": "02:00:00:00:06:01", "ip": "10.6.0.1", "mask": "255.255.255.0",
+         "linkSpeed": 1000, "linkUp": false, "hosts": ["10.6.0.5"]},
+        {"name": "link0", "mac": "02:00:00:00:07:01", "ip": "10.7.0.1", "mask": "255.255.255.0"}],
+        "cameras": [{"kind": "eth", "adapter": "nolink0", "mac": "00:1c:c1:00:06:01",
+                     "persistentIp": "10.6.0.10", "persistentMask": "255.255.255.0"},
+                    {"kind": "eth", "adapter": "link0", "mac": "00:1c:c1:00:07:01",
+                     "persistentIp": "10.7.0.10", "persistentMask": "255.255.255.0"}]})"),
+             PV_OK);
+    QCOMPARE(adapterState("nolink0").value("linkUp").toBool(), false);
+    QCOMPARE(adapterState("link0").value("linkUp").toBool(), true);
+    QCOMPARE(listedIds(), std::set<std::uint32_t>{PV_ETH_DEVICE_FIRST + 1});
+    QCOMPARE(cameraState(PV_ETH_DEVICE_FIRST).value("visible").toBool(), false);
+
+    pv_AdapterId nolink0 = adapterNamed("nolink0");
+    pv_AdapterBlock block{};
+    QCOMPARE(pv_EthAdapterConfig(&nolink0, PV_ADAPTER_GET, PV_ADAPTERCFG_BLOCK, &block, sizeof block), PV_OK);
+    QCOMPARE(block.linkSpeed, 0u);
+
+    QCOMPARE(arp("nolink0", "10.6.0.1"), PV_OK);
+    QCOMPARE(arp("nolink0", "10.6.0.10"), PV_ERR_TIMEOUT);
+    QCOMPARE(arp("nolink0", "10.6.0.5"), PV_ERR_TIMEOUT);
 }
 
 void TestSimEthernet::stoppedServiceHidesGigE()
