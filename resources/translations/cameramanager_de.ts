@@ -1533,7 +1533,7 @@ Return code: %1</source>
 Rückgabecode: %1</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+43"/>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+44"/>
         <source>Network configuration</source>
         <translation>Netzwerkkonfiguration</translation>
     </message>
@@ -1628,7 +1628,7 @@ Rückgabecode: %1</translation>
         <translation>Netzwerkadapter</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+32"/>
         <source>service</source>
         <translation>Dienst</translation>
     </message>
@@ -1654,13 +1654,13 @@ Rückgabecode: %1</translation>
     </message>
     <message>
         <location line="+13"/>
-        <location line="+23"/>
+        <location line="+24"/>
         <source>Disable for adapter</source>
         <translation>Für Adapter deaktivieren</translation>
     </message>
     <message>
-        <location line="-23"/>
-        <location line="+23"/>
+        <location line="-24"/>
+        <location line="+24"/>
         <source>Enable for adapter</source>
         <translation>Für Adapter aktivieren</translation>
     </message>
@@ -1860,7 +1860,7 @@ Fehlercode: %2</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+236"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+237"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -1885,7 +1885,7 @@ Fehlercode: %2</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location line="+121"/>
+        <location line="+122"/>
         <source>Open eth configuration...</source>
         <translation>ETH-Konfiguration wird geöffnet...</translation>
     </message>
@@ -1976,7 +1976,7 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
 <context>
     <name>StatusPanel</name>
     <message>
-        <location filename="../../src/app/widgets/statuspanel.cpp" line="+103"/>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+112"/>
         <source>The %1 Camera Manager is running with root privileges!</source>
         <translation>Der %1 Camera Manager wird mit Root-Rechten ausgeführt!</translation>
     </message>

@@ -1533,7 +1533,7 @@ Return code: %1</source>
 返回代码：%1</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+43"/>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+44"/>
         <source>Network configuration</source>
         <translation>网络配置</translation>
     </message>
@@ -1628,7 +1628,7 @@ Return code: %1</source>
         <translation>网络适配器</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+32"/>
         <source>service</source>
         <translation>服务</translation>
     </message>
@@ -1654,13 +1654,13 @@ Return code: %1</source>
     </message>
     <message>
         <location line="+13"/>
-        <location line="+23"/>
+        <location line="+24"/>
         <source>Disable for adapter</source>
         <translation>对适配器禁用</translation>
     </message>
     <message>
-        <location line="-23"/>
-        <location line="+23"/>
+        <location line="-24"/>
+        <location line="+24"/>
         <source>Enable for adapter</source>
         <translation>对适配器启用</translation>
     </message>
@@ -1860,7 +1860,7 @@ Errorcode: %2</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+236"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+237"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -1885,7 +1885,7 @@ Errorcode: %2</source>
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location line="+121"/>
+        <location line="+122"/>
         <source>Open eth configuration...</source>
         <translation>正在打开 ETH 配置...</translation>
     </message>
@@ -1976,7 +1976,7 @@ This operation may take up to 10 seconds.</source>
 <context>
     <name>StatusPanel</name>
     <message>
-        <location filename="../../src/app/widgets/statuspanel.cpp" line="+103"/>
+        <location filename="../../src/app/widgets/statuspanel.cpp" line="+112"/>
         <source>The %1 Camera Manager is running with root privileges!</source>
         <translation>%1 相机管理器正在以 root 权限运行！</translation>
     </message>

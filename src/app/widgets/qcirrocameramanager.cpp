@@ -14,6 +14,7 @@
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 #include "details/widgets/deviceinfoview.h"
+#include "network/adapterdiagnosis.h"
 #include "network/autoconfiguration.h"
 #include "network/ethcamerasettings.h"
 #include "network/ipv4.h"
@@ -331,6 +332,7 @@ void QCirroCameramanager::UpdateControls()
     const StatusAssessment status = StatusAssessment::of(camera, UnsupportedModels::list());
     Printer(status.message, status.colour, false);
     m_statusPanel->showDetails(status, camera != nullptr);
+    m_statusPanel->showAdapterAdvice(camera ? AdapterDiagnosis::cameraAdvice(*camera) : QString());
     m_commands->setUsable(ControlStates::usable(camera, m_serviceStates.eth != CoreStates::NotInstalled));
 }
 

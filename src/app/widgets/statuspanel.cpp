@@ -36,6 +36,8 @@ StatusPanel::StatusPanel(bool elevated, QWidget* parent)
     m_statusText->setMinimumHeight(statusMinimumHeight);
     m_secondStatusLine = wrappingLabel("secondStatusLine", this);
     m_secondStatusLine->hide();
+    m_adapterAdvice = wrappingLabel("adapterAdvice", this);
+    m_adapterAdvice->hide();
     m_networkNote = wrappingLabel("networkNote", this);
     m_networkNote->hide();
     m_cameraPicture = new QLabel(this);
@@ -49,10 +51,11 @@ StatusPanel::StatusPanel(bool elevated, QWidget* parent)
     grid->addWidget(m_busyIndicator, 0, 0);
     grid->addWidget(m_statusText, 0, 1);
     grid->addWidget(m_secondStatusLine, 1, 1);
-    grid->addWidget(m_networkNote, 2, 1);
+    grid->addWidget(m_adapterAdvice, 2, 1);
+    grid->addWidget(m_networkNote, 3, 1);
     if (m_privilegeWarning)
-        grid->addWidget(m_privilegeWarning, 3, 1);
-    grid->addWidget(m_cameraPicture, 0, 2, 4, 1, Qt::AlignTop);
+        grid->addWidget(m_privilegeWarning, 4, 1);
+    grid->addWidget(m_cameraPicture, 0, 2, 5, 1, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
 }
 
@@ -91,6 +94,12 @@ void StatusPanel::showNetworkNote(const QString& text, const QColor& colour)
 {
     m_networkNote->setText(StatusAssessment::fontColoured(colour.name(), text));
     m_networkNote->setVisible(!text.isEmpty());
+}
+
+void StatusPanel::showAdapterAdvice(const QString& text)
+{
+    m_adapterAdvice->setText(StatusAssessment::fontColoured(QStringLiteral("#b35900"), text));
+    m_adapterAdvice->setVisible(!text.isEmpty());
 }
 
 void StatusPanel::retranslate()

@@ -24,6 +24,9 @@ public:
     // A line of its own for the outcome of the last network change, which
     // stays while the status text follows the selection.
     void showNetworkNote(const QString& text, const QColor& colour);
+    // What the selected camera's network adapter lacks and how to fix it;
+    // empty hides the line.
+    void showAdapterAdvice(const QString& text);
     void retranslate();
 
 private:
@@ -34,6 +37,7 @@ private:
     QLabel* m_statusText = nullptr;
     QLabel* m_secondStatusLine = nullptr;
     QLabel* m_cameraPicture = nullptr;
+    QLabel* m_adapterAdvice = nullptr;
     QLabel* m_networkNote = nullptr;
     QLabel* m_privilegeWarning = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "network/widgets/ethdaemonconfig.h"
 
+#include "network/adapterdiagnosis.h"
 #include "network/adapteripconfig.h"
 #include "network/ethadaptercontrol.h"
 #include "network/ethservicebindings.h"
@@ -149,9 +150,21 @@ void EthDaemonConfig::fillAdapterTree()
         auto* item = new QTreeWidgetItem(m_top, {adapter.humanReadableName});
         item->setData(0, Qt::UserRole, adapter.interfaceName);
         item->setIcon(0, adapterIcon(entry.bound));
+        showDiagnosis(item);
     }
     m_tree->expandAll();
     updateExplanation();
+}
+
+void EthDaemonConfig::showDiagnosis(QTreeWidgetItem* item)
+{
+    const AdapterDiagnosis diagnosis = AdapterDiagnosis::diagnose(item->data(0, Qt::UserRole).toString());
+    item->setText(1, diagnosis.status());
+    QStringList notes;
+    for (const AdapterFinding& finding : diagnosis.findings())
+        notes << finding.summary();
+    item->setText(2, notes.join(QLatin1Char('\n')));
+    item->setToolTip(2, notes.join(QLatin1Char('\n')));
 }
 
 void EthDaemonConfig::updateExplanation()
@@ -228,6 +241,7 @@ void EthDaemonConfig::onPushedAdapterBound()
     }
     entry.bound = !entry.bound;
     m_tree->currentItem()->setIcon(0, adapterIcon(entry.bound));
+    showDiagnosis(m_tree->currentItem());
     m_bind->setText(entry.bound ? tr("Disable for adapter") : tr("Enable for adapter"));
     updateExplanation();
 }

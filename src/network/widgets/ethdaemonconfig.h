@@ -53,6 +53,8 @@ private:
     QGroupBox* buildServiceGroup();
     QGroupBox* buildAdapterGroup();
     void fillAdapterTree();
+    // The adapter's status and the findings of its checks, in its row.
+    void showDiagnosis(QTreeWidgetItem* item);
     void updateExplanation();
     void showAdapterSettings(const QString& interfaceName);
     void changeService(const QString& service);

@@ -74,6 +74,7 @@ private slots:
     void deletingAReadOnlyDeviceRemovesIt();
     void automaticConfigurationRepairsACamera();
     void manualConfigurationWithASuggestedAddress();
+    void adapterAdviceFollowsTheSelection();
     void automaticConfigurationFailureIsReported();
 
 private:
@@ -372,6 +373,20 @@ void TestMainWindow::manualConfigurationWithASuggestedAddress()
     auto* status = child<QLabel>(*window, "statusText");
     window->UpdateControls();
     QVERIFY2(status->text().contains("The camera is configured correctly"), qPrintable(status->text()));
+}
+
+void TestMainWindow::adapterAdviceFollowsTheSelection()
+{
+    const auto window = makeWindow();
+    auto* advice = child<QLabel>(*window, "adapterAdvice");
+    // Camera 1006 sits on an adapter that carries no 2 KB packets.
+    select(*window, 1006);
+    QVERIFY(!advice->isHidden());
+    QVERIFY2(advice->text().contains("simnet2"), qPrintable(advice->text()));
+    select(*window, 1000);
+    QVERIFY(advice->isHidden());
+    select(*window, 0);
+    QVERIFY(advice->isHidden());
 }
 
 void TestMainWindow::automaticConfigurationFailureIsReported()
