@@ -8,6 +8,8 @@
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
 #include "network/widgets/ethconfig.h"
+#include "network/widgets/ethdaemonconfig.h"
+#include "services/servicemanager.h"
 #include "network/widgets/qipedit.h"
 
 #include <pvsim.h>
@@ -21,6 +23,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QTreeWidget>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -98,6 +101,24 @@ bool shootEthConfig(QCirroCameramanager& window, const QDir& output)
     return ok;
 }
 
+bool shootEthDaemonConfig(QWidget& window, const QDir& output, bool elevated, const QString& name)
+{
+    const std::unique_ptr<ServiceManager> services = ServiceManager::create();
+    EthDaemonConfig dialog(&window, *services, elevated);
+    dialog.setAttribute(Qt::WA_DeleteOnClose, false);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    // The adapter without 2 KB packets, with its findings.
+    auto* tree = dialog.findChild<QTreeWidget*>(QStringLiteral("adapterTree"));
+    const QTreeWidgetItem* top = tree->topLevelItem(0);
+    for (int i = 0; i < top->childCount(); ++i) {
+        if (top->child(i)->data(0, Qt::UserRole).toString() == QLatin1String("simnet2"))
+            tree->setCurrentItem(top->child(i));
+    }
+    return save(dialog, output, name);
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -146,6 +167,10 @@ int main(int argc, char* argv[])
     window.resize(960, 780);
 
     ok = shootEthConfig(window, output) && ok;
+    ok = shootEthDaemonConfig(window, output, true, QStringLiteral("ethdaemonconfig")) && ok;
+    ok = shootEthDaemonConfig(window, output, false, QStringLiteral("ethdaemonconfig-not-elevated")) && ok;
+    window.cameraList()->selectDevice(1006);
+    ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);
     window.findChild<QPushButton*>(QStringLiteral("automaticEthConfiguration"))->click();
     auto* note = window.findChild<QLabel*>(QStringLiteral("networkNote"));

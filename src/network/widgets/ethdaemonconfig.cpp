@@ -84,7 +84,11 @@ QGroupBox* EthDaemonConfig::buildAdapterGroup()
     m_tree = new QTreeWidget(m_adapterGroup);
     m_tree->setObjectName(QStringLiteral("adapterTree"));
     m_tree->setHeaderLabels({tr("Network Adapter"), tr("Status Text"), tr("Notes")});
-    m_tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Status and notes are long: they show whole in the tool tips and, for the
+    // selected adapter, in the status group.
+    m_tree->header()->setStretchLastSection(true);
+    m_tree->setColumnWidth(0, 180);
+    m_tree->setColumnWidth(1, 240);
     connect(m_tree, &QTreeWidget::itemClicked, this, &EthDaemonConfig::onAdapter);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { onAdapter(item, 0); });
     layout->addWidget(m_tree, 0, 0, 1, 3);
@@ -160,10 +164,11 @@ void EthDaemonConfig::showDiagnosis(QTreeWidgetItem* item)
 {
     const AdapterDiagnosis diagnosis = AdapterDiagnosis::diagnose(item->data(0, Qt::UserRole).toString());
     item->setText(1, diagnosis.status());
+    item->setToolTip(1, diagnosis.status());
     QStringList notes;
     for (const AdapterFinding& finding : diagnosis.findings())
         notes << finding.summary();
-    item->setText(2, notes.join(QLatin1Char('\n')));
+    item->setText(2, notes.join(QLatin1Char(' ')));
     item->setToolTip(2, notes.join(QLatin1Char('\n')));
 }
 
@@ -208,7 +213,7 @@ void EthDaemonConfig::onAdapter(QTreeWidgetItem* item, int)
         m_status->setText(tr("Please choose a network adapter from the list"));
         return;
     }
-    m_status->clear();
+    m_status->setText(QStringList{item->text(1), item->toolTip(2)}.join(QLatin1Char('\n')).trimmed());
     showAdapterSettings(name);
 }
 
