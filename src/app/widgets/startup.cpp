@@ -21,17 +21,6 @@ namespace Startup {
 
 namespace {
 
-// Opened once the event loop runs, on top of the shown window. The
-// "Additional functions" dialog does not exist in this version: say so rather
-// than ignore the option.
-void openRequestedDialog(QCirroCameramanager& window, CommandLine::Dialog dialog)
-{
-    if (dialog == CommandLine::Dialog::DaemonControl)
-        QTimer::singleShot(0, &window, &QCirroCameramanager::onEthDaemonConfig);
-    else if (dialog == CommandLine::Dialog::AdditionalFunctions)
-        std::fprintf(stderr, "The \"Additional functions\" dialog is not available in this version.\n");
-}
-
 // Modal, without parent: the main window does not exist yet.
 void showApiVersionRefusal()
 {
@@ -60,6 +49,16 @@ int runMainWindow(const CommandLine& commandLine, const AfterShow& afterShow)
 }
 
 } // namespace
+
+// The "Additional functions" dialog does not exist in this version: say so
+// rather than ignore the option.
+void openRequestedDialog(QCirroCameramanager& window, CommandLine::Dialog dialog)
+{
+    if (dialog == CommandLine::Dialog::DaemonControl)
+        QTimer::singleShot(0, &window, &QCirroCameramanager::onEthDaemonConfig);
+    else if (dialog == CommandLine::Dialog::AdditionalFunctions)
+        std::fprintf(stderr, "The \"Additional functions\" dialog is not available in this version.\n");
+}
 
 void prepareProcess()
 {

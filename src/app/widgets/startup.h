@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/commandline.h"
+
 #include <QStringList>
 
 #include <functional>
@@ -26,5 +28,9 @@ void setInterfaceFont();
 using AfterShow = std::function<int(QCirroCameramanager& window)>;
 
 int run(const QStringList& arguments, const AfterShow& afterShow = AfterShow());
+
+// Opens the dialog that the command line asks for on top of the shown window,
+// once the event loop runs.
+void openRequestedDialog(QCirroCameramanager& window, CommandLine::Dialog dialog);
 
 } // namespace Startup

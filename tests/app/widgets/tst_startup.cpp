@@ -2,6 +2,9 @@
 #include "app/commandline.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "app/widgets/startup.h"
+#include "network/widgets/ethdaemonconfig.h"
+
+#include "messageboxanswerer.h"
 
 #include <pvsim.h>
 
@@ -30,6 +33,7 @@ private slots:
     void oldLibraryIsRefusedWithMessageAndExitCodeZero();
     void supportedLibraryShowsTheMainWindow();
     void helpShowsDescriptionAndBothOptions();
+    void daemonOptionOpensTheNetworkDialog();
 
 private:
     // Runs start-up while closing every modal box it shows; returns its texts.
@@ -181,6 +185,26 @@ void TestStartup::helpShowsDescriptionAndBothOptions()
     QVERIFY(help.contains("Open Daemon control"));
     QVERIFY(help.contains("--help"));
     QVERIFY(!help.contains("--version"));
+}
+
+void TestStartup::daemonOptionOpensTheNetworkDialog()
+{
+    QCirroCameramanager window;
+    window.show();
+    // Declines the offer to restart with administrator rights, when there is one.
+    MessageBoxAnswerer answerer(QMessageBox::No);
+    bool opened = false;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, &window, [&] {
+        if (auto* dialog = window.findChild<EthDaemonConfig*>()) {
+            opened = dialog->isVisible();
+            dialog->reject();
+        }
+    });
+    closer.start(10);
+    Startup::openRequestedDialog(window, CommandLine::Dialog::DaemonControl);
+    QTRY_VERIFY(opened);
+    QTRY_VERIFY(!window.findChild<EthDaemonConfig*>());
 }
 
 QTEST_MAIN(TestStartup)
