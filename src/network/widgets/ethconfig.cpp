@@ -1,5 +1,6 @@
 #include "network/widgets/ethconfig.h"
 
+#include "common/widgets/statusgroup.h"
 #include "network/arpprober.h"
 #include "network/ethconfigchecks.h"
 #include "network/ipsuggestion.h"
@@ -105,11 +106,8 @@ void EthConfig::BuildDialog()
     (new QVBoxLayout(miscellaneous))->addWidget(m_dhcp);
     layout->addWidget(miscellaneous);
     layout->addWidget(buildMulticastGroup());
-    auto* statusGroup = new QGroupBox(tr("Status"), this);
-    m_status = new QLabel(statusGroup);
-    m_status->setObjectName(QStringLiteral("status"));
-    m_status->setWordWrap(true);
-    (new QVBoxLayout(statusGroup))->addWidget(m_status);
+    auto* statusGroup = new StatusGroup(tr("Status"), this);
+    m_status = statusGroup->label();
     layout->addWidget(statusGroup);
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     m_buttons->setObjectName(QStringLiteral("buttons"));

@@ -1,5 +1,6 @@
 #include "network/widgets/ethdaemonconfig.h"
 
+#include "common/widgets/statusgroup.h"
 #include "network/adapterdiagnosis.h"
 #include "network/adapteripconfig.h"
 #include "network/ethadaptercontrol.h"
@@ -48,11 +49,8 @@ EthDaemonConfig::EthDaemonConfig(QWidget* parent, ServiceManager& services, bool
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(buildServiceGroup());
     layout->addWidget(buildAdapterGroup(), 1);
-    auto* statusGroup = new QGroupBox(tr("Status"), this);
-    m_status = new QLabel(statusGroup);
-    m_status->setObjectName(QStringLiteral("status"));
-    m_status->setWordWrap(true);
-    (new QVBoxLayout(statusGroup))->addWidget(m_status);
+    auto* statusGroup = new StatusGroup(tr("Status"), this);
+    m_status = statusGroup->label();
     layout->addWidget(statusGroup);
 
     fillAdapterTree();

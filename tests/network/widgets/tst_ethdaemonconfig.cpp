@@ -1,3 +1,4 @@
+#include "network/ethadaptercontrol.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "services/servicemanager.h"
 
@@ -27,6 +28,7 @@ private slots:
     void unbindingHidesTheCamerasBehindTheAdapter();
     void jumboPacketsFollowThePacketSize_data();
     void jumboPacketsFollowThePacketSize();
+    void jumboPacketsOnASmallMtuAreQuestioned();
     void packetFilterIsWritten();
     void serviceButtonStopsAndStartsTheService();
 
@@ -150,6 +152,25 @@ void TestEthDaemonConfig::jumboPacketsFollowThePacketSize()
     open(true);
     select(adapter);
     QTEST(child<QCheckBox>("jumboPackets")->isChecked(), "checked");
+}
+
+void TestEthDaemonConfig::jumboPacketsOnASmallMtuAreQuestioned()
+{
+    QCOMPARE(pvsim_LoadScenarioText(R"({"adapters": [{"name": "simnet0", "mac": "02:c1:5e:00:00:01",
+        "ip": "192.168.50.1", "mask": "255.255.255.0", "mtu": 1500, "jumbo2k": false}]})"),
+             PV_OK);
+    open(true);
+    select(QStringLiteral("simnet0"));
+    auto* jumbo = child<QCheckBox>("jumboPackets");
+    QVERIFY(!jumbo->isChecked());
+    MessageBoxAnswerer answerer(QMessageBox::Cancel);
+    jumbo->click();
+    QTRY_COMPARE(answerer.seen.size(), 1);
+    QVERIFY(answerer.seen.first().startsWith(QStringLiteral("Warning: The network adapter is not configured to use "
+                                                            "packets larger than the normal size of 1,5 KB.")));
+    // Cancelled: the box is unchecked again and the driver told so.
+    QVERIFY(!jumbo->isChecked());
+    QCOMPARE(EthAdapterControl::readBlock(QStringLiteral("simnet0"))->jumbo2k, 0u);
 }
 
 void TestEthDaemonConfig::packetFilterIsWritten()
