@@ -1,5 +1,7 @@
 #include "network/arpprober.h"
 
+#include "network/ipv4.h"
+
 #include <QtAlgorithms>
 
 namespace {
@@ -12,10 +14,7 @@ quint32 ipv4Of(const QHostAddress& address)
 // -1 unless mask is a run of ones followed by zeros, with at least one one.
 int prefixLengthOf(quint32 mask)
 {
-    const quint32 hostBits = ~mask;
-    if (mask == 0 || (hostBits & (hostBits + 1)) != 0)
-        return -1;
-    return int(qPopulationCount(mask));
+    return Ipv4::isContiguousMask(mask) ? int(qPopulationCount(mask)) : -1;
 }
 
 } // namespace
@@ -93,5 +92,5 @@ ArpProber::ProbeResult ArpProber::noAnswer(quint32 target) const
 
 QString ArpProber::addressText(quint32 address)
 {
-    return QHostAddress(address).toString();
+    return Ipv4::text(address);
 }

@@ -1,13 +1,8 @@
 #include "network/autoconfiguration.h"
 
 #include "camera/camera.h"
+#include "network/ethconfigsettings.h"
 #include "network/ipv4.h"
-
-namespace {
-
-constexpr quint32 rangeWordWhenApplied = 100;
-
-} // namespace
 
 AutoConfiguration AutoConfiguration::of(const Camera& camera)
 {
@@ -23,10 +18,7 @@ AutoConfiguration AutoConfiguration::of(const Camera& camera)
 
 quint32 AutoConfiguration::run() const
 {
-    pv_IpBlock range{};
-    Ipv4::toNetworkBytes(rangeBegin, range.first);
-    Ipv4::toNetworkBytes(rangeEnd, range.second);
-    range.extra = rangeWordWhenApplied;
+    pv_IpBlock range = EthConfigSettings::rangeBlock(rangeBegin, rangeEnd);
     if (pv_IpConfig(PV_ADDRESS_BY_MAC, adapterMac.bytes.data(), PV_IPCFG_SET_RANGE, &range, sizeof range) != PV_OK)
         return rangeFailed;
     pv_IpBlock persistent{};

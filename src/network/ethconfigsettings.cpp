@@ -43,11 +43,18 @@ void EthConfigSettings::setRangeWords(quint32 begin, quint32 end)
     changed[Range] = true;
 }
 
+pv_IpBlock EthConfigSettings::rangeBlock(quint32 begin, quint32 end)
+{
+    pv_IpBlock block{};
+    Ipv4::toNetworkBytes(begin, block.first);
+    Ipv4::toNetworkBytes(end, block.second);
+    block.extra = rangeWordWhenApplied;
+    return block;
+}
+
 void EthConfigSettings::setRange(quint32 begin, quint32 end)
 {
-    Ipv4::toNetworkBytes(begin, range.first);
-    Ipv4::toNetworkBytes(end, range.second);
-    range.extra = rangeWordWhenApplied;
+    range = rangeBlock(begin, end);
     changed[Range] = true;
 }
 

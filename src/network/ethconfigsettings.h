@@ -51,6 +51,9 @@ public:
     // Range words as they lie in memory: see the dialog's apply handler.
     void setRangeWords(quint32 begin, quint32 end);
     void setRange(quint32 begin, quint32 end);
+    // The adapter's range block as the driver takes it: begin and end (host
+    // order) in network order, and the word that marks the range applied.
+    static pv_IpBlock rangeBlock(quint32 begin, quint32 end);
     void setDhcp(bool enable);
     void setMulticastIp(quint32 address);
     void setMulticastEnable(bool enable);

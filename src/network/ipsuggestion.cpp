@@ -1,6 +1,7 @@
 #include "network/ipsuggestion.h"
 
 #include "network/arpprober.h"
+#include "network/ipv4.h"
 
 IpSuggestion::IpSuggestion(ArpProber& prober)
     : m_prober(prober)
@@ -9,7 +10,7 @@ IpSuggestion::IpSuggestion(ArpProber& prober)
 
 quint32 IpSuggestion::firstCandidate() const
 {
-    return (m_prober.adapterMask() & m_prober.adapterIp()) + 1;
+    return Ipv4::hostRange(m_prober.adapterIp(), m_prober.adapterMask()).first;
 }
 
 quint32 IpSuggestion::candidateCount() const

@@ -1,5 +1,7 @@
 #include "network/macaddress.h"
 
+#include "camera/camera.h"
+
 #include <QRegularExpression>
 
 std::optional<MacAddress> MacAddress::fromText(const QString& text)
@@ -28,8 +30,5 @@ bool MacAddress::isZero() const
 
 QString MacAddress::text() const
 {
-    QStringList pairs;
-    for (quint8 byte : bytes)
-        pairs << QStringLiteral("%1").arg(byte, 2, 16, QLatin1Char('0'));
-    return pairs.join(QLatin1Char(':'));
+    return Camera::macText(bytes.data(), QLatin1Char(':'));
 }

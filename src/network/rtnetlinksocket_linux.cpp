@@ -14,6 +14,24 @@
 
 namespace {
 
+template <typename Message>
+struct DumpRequest
+{
+    nlmsghdr header;
+    Message message;
+};
+
+// A request for every entry of one kind; the caller sets the family.
+template <typename Message>
+DumpRequest<Message> dumpRequest(unsigned short type)
+{
+    DumpRequest<Message> request{};
+    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
+    request.header.nlmsg_type = type;
+    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    return request;
+}
+
 constexpr std::size_t attributeSpace = 3 * RTA_SPACE(sizeof(quint32));
 
 struct AddressRequest
@@ -113,14 +131,7 @@ RtnetlinkSocket::~RtnetlinkSocket()
 
 int RtnetlinkSocket::ipv4Addresses(int interfaceIndex, QVector<Ipv4Address>* addresses)
 {
-    struct
-    {
-        nlmsghdr header;
-        ifaddrmsg message;
-    } request{};
-    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
-    request.header.nlmsg_type = RTM_GETADDR;
-    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    auto request = dumpRequest<ifaddrmsg>(RTM_GETADDR);
     request.message.ifa_family = AF_INET;
     if (const int error = send(&request, request.header.nlmsg_len))
         return error;
@@ -169,14 +180,7 @@ int RtnetlinkSocket::changeIpv4(int type, int flags, int interfaceIndex, const I
 
 int RtnetlinkSocket::ipv4Neighbours(int interfaceIndex, QVector<Ipv4Neighbour>* neighbours)
 {
-    struct
-    {
-        nlmsghdr header;
-        ndmsg message;
-    } request{};
-    request.header.nlmsg_len = NLMSG_LENGTH(sizeof request.message);
-    request.header.nlmsg_type = RTM_GETNEIGH;
-    request.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    auto request = dumpRequest<ndmsg>(RTM_GETNEIGH);
     request.message.ndm_family = AF_INET;
     if (const int error = send(&request, request.header.nlmsg_len))
         return error;

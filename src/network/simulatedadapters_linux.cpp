@@ -1,8 +1,8 @@
 #include "network/simulatedadapters.h"
 
-#include <pvsim.h>
+#include "common/simulateddriver.h"
 
-#include <dlfcn.h>
+#include <pvsim.h>
 
 #include <type_traits>
 
@@ -10,8 +10,6 @@ static_assert(std::is_same_v<decltype(&pvsim_GetState), SimulatedAdapters::GetSt
 
 SimulatedAdapters::GetState SimulatedAdapters::driverStateFunction()
 {
-    // A vendor library has no pvsim_ functions, so nothing may need them at
-    // link time.
-    static const auto getState = reinterpret_cast<GetState>(::dlsym(RTLD_DEFAULT, "pvsim_GetState"));
+    static const auto getState = SimulatedDriver::lookUp<GetState>("pvsim_GetState");
     return getState;
 }
