@@ -7,6 +7,6 @@ translated=()
 for ts in resources/translations/cameramanager_*.ts; do
     [ "$ts" = resources/translations/cameramanager_en.ts ] || translated+=("$ts")
 done
-lupdate -no-obsolete -locations relative src -ts "${translated[@]}"
+lupdate -no-obsolete -locations relative src api/driversettings -ts "${translated[@]}"
 # The sources are English; their file only carries plural forms.
 lupdate -pluralonly -no-obsolete -locations none src -ts resources/translations/cameramanager_en.ts
