@@ -48,6 +48,9 @@ enum Code : int {
     // An ARP probe refused before anything was sent: the target is not a
     // usable host address of the adapter's subnet.
     TargetRefused = 13,
+    // A configuration file that is not a regular file, too large, or does
+    // not parse.
+    UnreadableFile = 14,
     // Nobody answered an ARP probe in time. The value is what Windows' SendARP
     // reports for the same case, and what the free-address search takes as
     // "free".

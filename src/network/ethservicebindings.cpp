@@ -1,5 +1,6 @@
 #include "network/ethservicebindings.h"
 
+#include "common/servicesettingsfile.h"
 #include "driversettings/driverservicesettings.h"
 #include "network/networklogging.h"
 
@@ -26,24 +27,24 @@ bool EthServiceBindings::isBound(const QString& interfaceName)
 {
     if (!isInterfaceName(interfaceName))
         return true;
-    return DriverServiceSettings::open(QLatin1String(DriverServiceSettings::ethService))
-        ->value(bindingKey(interfaceName), true)
-        .toBool();
+    const auto entry = ServiceSettingsFile(QLatin1String(DriverServiceSettings::ethService)).entry(bindingKey(interfaceName));
+    return !entry || QVariant(entry->value).toBool();
 }
 
 Result EthServiceBindings::setBound(const QString& interfaceName, bool bound)
 {
     if (!isInterfaceName(interfaceName))
         return NetworkFailure::unknownInterface(interfaceName);
-    const auto settings = DriverServiceSettings::open(QLatin1String(DriverServiceSettings::ethService));
-    if (settings->isWritable()) {
-        settings->setValue(bindingKey(interfaceName), bound);
-        settings->sync();
-        if (settings->status() == QSettings::NoError)
-            return {};
+    ServiceSettingsFile settings(QLatin1String(DriverServiceSettings::ethService));
+    if (!settings.problem().isSuccess())
+        return settings.problem();
+    if (settings.isWritable()) {
+        const Result written = settings.write(bindingKey(interfaceName), bound ? QStringLiteral("true") : QStringLiteral("false"));
+        if (written.isSuccess() || written.code() != HostError::NotWritable)
+            return written;
     }
-    qCWarning(lcNetwork) << "cannot store the ETH service binding in" << settings->fileName();
+    qCWarning(lcNetwork) << "cannot store the ETH service binding in" << settings.path();
     return {HostError::NotWritable,
             tr("The ETH service settings in %1 can't be changed. Restart with elevated privileges!")
-                .arg(settings->fileName())};
+                .arg(settings.path())};
 }

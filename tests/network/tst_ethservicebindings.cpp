@@ -1,5 +1,6 @@
 #include "driversettings/driverservicesettings.h"
 #include "network/ethservicebindings.h"
+#include "withoutwriterights.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -22,6 +23,11 @@ private slots:
     void refusesNamesThatAreNoInterfaceNames();
 
 private:
+    static QByteArray readAll(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
     QString serviceFile() const { return DriverServiceSettings::filePath(QStringLiteral("cirro_eth")); }
 
     std::unique_ptr<QTemporaryDir> m_root;
@@ -64,29 +70,33 @@ void TestEthServiceBindings::changesLandInTheDriversFormat()
 
 void TestEthServiceBindings::unwritableFileIsReported_data()
 {
+    QTest::addColumn<bool>("readOnlyDirectory");
     QTest::addColumn<bool>("directoryInPlace");
-    // Root writes read-only files; nobody writes into a directory.
-    QTest::newRow("read-only file") << false;
-    QTest::newRow("directory where the file belongs") << true;
+    QTest::addColumn<int>("code");
+    QTest::newRow("read-only file") << false << false << int(HostError::NotWritable);
+    // The file could be written in place, but not replaced atomically.
+    QTest::newRow("read-only directory") << true << false << int(HostError::NotWritable);
+    QTest::newRow("directory where the file belongs") << false << true << int(HostError::UnreadableFile);
 }
 
 void TestEthServiceBindings::unwritableFileIsReported()
 {
+    QFETCH(bool, readOnlyDirectory);
     QFETCH(bool, directoryInPlace);
-    if (directoryInPlace) {
+    QFETCH(int, code);
+    if (directoryInPlace)
         QVERIFY(QDir().mkpath(serviceFile()));
-    } else {
-        if (::geteuid() == 0)
-            QSKIP("Root writes read-only files.");
-        QSettings existing(serviceFile(), QSettings::IniFormat);
-        existing.setValue(QStringLiteral("Bindings/eth0"), true);
-        existing.sync();
-        QVERIFY(QFile::setPermissions(serviceFile(), QFile::ReadOwner));
+    else
+        QVERIFY(EthServiceBindings::setBound(QStringLiteral("eth0"), true).isSuccess());
+    const QByteArray before = readAll(serviceFile());
+    {
+        WithoutWriteRights readOnly(m_root->path(), readOnlyDirectory);
+        const Result result = EthServiceBindings::setBound(QStringLiteral("eth0"), false);
+        QCOMPARE(result.code(), code);
+        QVERIFY(result.text().contains(serviceFile()));
+        QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
     }
-    const Result result = EthServiceBindings::setBound(QStringLiteral("eth0"), false);
-    QCOMPARE(result.code(), int(HostError::NotWritable));
-    QVERIFY(result.text().contains(serviceFile()));
-    QVERIFY(EthServiceBindings::isBound(QStringLiteral("eth0")));
+    QCOMPARE(readAll(serviceFile()), before);
 }
 
 void TestEthServiceBindings::refusesNamesThatAreNoInterfaceNames_data()
