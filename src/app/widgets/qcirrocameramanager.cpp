@@ -14,6 +14,7 @@
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 #include "details/widgets/deviceinfoview.h"
+#include "driver/widgets/additionalfunctions.h"
 #include "network/adapterdiagnosis.h"
 #include "network/autoconfiguration.h"
 #include "network/ethcamerasettings.h"
@@ -198,6 +199,7 @@ void QCirroCameramanager::registerCommands()
                               &QCirroCameramanager::onManualEthConfig);
     m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
     m_commands->setHandler(Command::EthService, [this] { onEthDaemonConfig(); });
+    m_commands->setHandler(Command::AdditionalFunctions, [this] { OnAdditionalFunctionsDlg(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -437,6 +439,13 @@ void QCirroCameramanager::onEthDaemonConfig()
     m_ethDaemonDialog->onChangedCirrodStatus(m_serviceStates);
     m_ethDaemonDialog->exec(); // deletes itself when it closes
     m_ethDaemonDialog = nullptr;
+}
+
+void QCirroCameramanager::OnAdditionalFunctionsDlg()
+{
+    Elevation::request(true, QStringLiteral("--additional-func"), this);
+    AdditionalFunctions dialog(this);
+    dialog.exec();
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

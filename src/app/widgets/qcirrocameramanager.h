@@ -73,6 +73,7 @@ public slots:
     void onAutoConfig();
     void onAutoConfigFinished();
     void onEthDaemonConfig();
+    void OnAdditionalFunctionsDlg();
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();

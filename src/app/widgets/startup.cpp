@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <cstdio>
 
 namespace Startup {
 
@@ -50,14 +49,12 @@ int runMainWindow(const CommandLine& commandLine, const AfterShow& afterShow)
 
 } // namespace
 
-// The "Additional functions" dialog does not exist in this version: say so
-// rather than ignore the option.
 void openRequestedDialog(QCirroCameramanager& window, CommandLine::Dialog dialog)
 {
     if (dialog == CommandLine::Dialog::DaemonControl)
         QTimer::singleShot(0, &window, &QCirroCameramanager::onEthDaemonConfig);
     else if (dialog == CommandLine::Dialog::AdditionalFunctions)
-        std::fprintf(stderr, "The \"Additional functions\" dialog is not available in this version.\n");
+        QTimer::singleShot(0, &window, &QCirroCameramanager::OnAdditionalFunctionsDlg);
 }
 
 void prepareProcess()

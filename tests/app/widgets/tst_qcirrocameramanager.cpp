@@ -305,11 +305,12 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile", "additionalFunctions",
+    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile",
                              "uploadStarterFirmware"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "additionalFunctions")->isEnabled());
     // Built, and allowed for a free GigE camera but not for a USB camera.
     QVERIFY(child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());

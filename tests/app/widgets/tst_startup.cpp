@@ -2,7 +2,6 @@
 #include "app/commandline.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "app/widgets/startup.h"
-#include "network/widgets/ethdaemonconfig.h"
 
 #include "messageboxanswerer.h"
 
@@ -33,7 +32,8 @@ private slots:
     void oldLibraryIsRefusedWithMessageAndExitCodeZero();
     void supportedLibraryShowsTheMainWindow();
     void helpShowsDescriptionAndBothOptions();
-    void daemonOptionOpensTheNetworkDialog();
+    void dialogOptionOpensItsDialog_data();
+    void dialogOptionOpensItsDialog();
 
 private:
     // Runs start-up while closing every modal box it shows; returns its texts.
@@ -187,8 +187,18 @@ void TestStartup::helpShowsDescriptionAndBothOptions()
     QVERIFY(!help.contains("--version"));
 }
 
-void TestStartup::daemonOptionOpensTheNetworkDialog()
+void TestStartup::dialogOptionOpensItsDialog_data()
 {
+    QTest::addColumn<int>("dialog");
+    QTest::addColumn<QString>("objectName");
+    QTest::newRow("daemon control") << int(CommandLine::Dialog::DaemonControl) << "ethDaemonConfig";
+    QTest::newRow("additional functions") << int(CommandLine::Dialog::AdditionalFunctions) << "additionalFunctions";
+}
+
+void TestStartup::dialogOptionOpensItsDialog()
+{
+    QFETCH(int, dialog);
+    QFETCH(QString, objectName);
     QCirroCameramanager window;
     window.show();
     // Declines the offer to restart with administrator rights, when there is one.
@@ -196,15 +206,15 @@ void TestStartup::daemonOptionOpensTheNetworkDialog()
     bool opened = false;
     QTimer closer;
     connect(&closer, &QTimer::timeout, &window, [&] {
-        if (auto* dialog = window.findChild<EthDaemonConfig*>()) {
-            opened = dialog->isVisible();
-            dialog->reject();
+        if (auto* shown = window.findChild<QDialog*>(objectName)) {
+            opened = shown->isVisible();
+            shown->reject();
         }
     });
     closer.start(10);
-    Startup::openRequestedDialog(window, CommandLine::Dialog::DaemonControl);
+    Startup::openRequestedDialog(window, CommandLine::Dialog(dialog));
     QTRY_VERIFY(opened);
-    QTRY_VERIFY(!window.findChild<EthDaemonConfig*>());
+    QTRY_VERIFY(!window.findChild<QDialog*>(objectName));
 }
 
 QTEST_MAIN(TestStartup)
