@@ -73,7 +73,10 @@ std::optional<QString> utf8Text(const QByteArray& bytes)
 {
     QTextCodec::ConverterState state;
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || bytes.contains('\0'))
+    const bool control = std::any_of(bytes.begin(), bytes.end(), [](char ch) {
+        return (uchar(ch) < 0x20 && ch != '\t' && ch != '\r') || ch == '\x7f';
+    });
+    if (state.invalidChars > 0 || control)
         return std::nullopt;
     return text;
 }
