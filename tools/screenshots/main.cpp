@@ -7,6 +7,11 @@
 #include "app/widgets/startup.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
+#include "driver/debugmask.h"
+#include "driver/widgets/additionalfunctions.h"
+#include "driver/widgets/flagsctrl.h"
+#include "driver/widgets/qdebugoutctrl.h"
+#include "driversettings/driverservicesettings.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "services/servicemanager.h"
@@ -119,6 +124,32 @@ bool shootEthDaemonConfig(QWidget& window, const QDir& output, bool elevated, co
     return save(dialog, output, name);
 }
 
+template <typename Dialog>
+bool shootDialog(QWidget& window, const QDir& output, const QString& name)
+{
+    Dialog dialog(&window);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    return save(dialog, output, name);
+}
+
+// The three driver settings dialogs, with the right to change the driver
+// services' files and with a write-protected configuration directory.
+bool shootDriverSettings(QWidget& window, const QDir& output, bool writable)
+{
+    const QString root = DriverServiceSettings::configRoot();
+    const QString suffix = writable ? QString() : QStringLiteral("-not-elevated");
+    DebugMask::write(DebugMask::Driver::Usb, 0xC0000011u);
+    if (!writable)
+        QFile::setPermissions(root, QFile::ReadOwner | QFile::ExeOwner);
+    bool ok = shootDialog<AdditionalFunctions>(window, output, QStringLiteral("additionalfunctions") + suffix);
+    ok = shootDialog<QDebugOutCtrl>(window, output, QStringLiteral("debugoutctrl") + suffix) && ok;
+    ok = shootDialog<FlagsCtrl>(window, output, QStringLiteral("flagsctrl") + suffix) && ok;
+    QFile::setPermissions(root, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return ok;
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -169,6 +200,8 @@ int main(int argc, char* argv[])
     ok = shootEthConfig(window, output) && ok;
     ok = shootEthDaemonConfig(window, output, true, QStringLiteral("ethdaemonconfig")) && ok;
     ok = shootEthDaemonConfig(window, output, false, QStringLiteral("ethdaemonconfig-not-elevated")) && ok;
+    ok = shootDriverSettings(window, output, true) && ok;
+    ok = shootDriverSettings(window, output, false) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

@@ -27,7 +27,8 @@ void SettingsFileNotice::refresh()
             permissionMissing = true;
     }
     if (permissionMissing)
-        lines << tr("The driver settings are shown but can't be changed: restart with elevated privileges!");
+        lines << tr("The drivers' settings files in %1 are shown but can't be changed: restart with elevated privileges!")
+                     .arg(DriverServiceSettings::configRoot());
     setText(lines.join(QLatin1Char('\n')));
     setVisible(!lines.isEmpty());
 }
