@@ -332,9 +332,295 @@
     </message>
 </context>
 <context>
+    <name>AdditionalFunctions</name>
+    <message>
+        <location filename="../../src/driver/bootboost.cpp" line="+30"/>
+        <source>Could not read the boot boost state: %1</source>
+        <translation>Der Boot-Boost-Zustand konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Could not enable boot boost: %1</source>
+        <translation>Boot Boost konnte nicht eingeschaltet werden: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Could not disable boot boost: %1</source>
+        <translation>Boot Boost konnte nicht ausgeschaltet werden: %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Could not clear the boot boost list: %1</source>
+        <translation>Die Boot-Boost-Liste konnte nicht geleert werden: %1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+3"/>
+        <location line="+4"/>
+        <source>Could not read the boot boost list: %1</source>
+        <translation>Die Boot-Boost-Liste konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/driver/driverconfiguration.cpp" line="+71"/>
+        <source>Setting read-only multicast failed with code: %1</source>
+        <translation>Das Einstellen von Nur-Lese-Multicast ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>pv_FetchRegistryValues() returned %1</source>
+        <translation>pv_FetchRegistryValues() hat %1 zurückgegeben</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>onFetchTcpIp() returned %1</source>
+        <translation>onFetchTcpIp() hat %1 zurückgegeben</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Failed to set Idle state! Return code: %1</source>
+        <translation>Der Idle-Zustand konnte nicht gesetzt werden! Rückgabewert: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/driver/widgets/additionalfunctions.cpp" line="+40"/>
+        <source>Additional functions</source>
+        <translation>Zusätzliche Funktionen</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Image memory</source>
+        <translation>Bildspeicher</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Compatibility mode</source>
+        <translation>Kompatibilitätsmodus</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Bulk Transfer Size</source>
+        <translation>Bulk-Transfergröße</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Boot boost</source>
+        <translation>Boot Boost</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enable</source>
+        <translation>Einschalten</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>e.g. 3;5-7</source>
+        <translation>z. B. 3;5-7</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera IDs from 1 to 254, separated by &quot;;&quot;; &quot;5-7&quot; stands for 5, 6 and 7.</source>
+        <translation>Kamera-IDs von 1 bis 254, getrennt durch „;“; „5-7“ steht für 5, 6 und 7.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set ID list</source>
+        <translation>ID-Liste setzen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Clear ID list</source>
+        <translation>ID-Liste leeren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add ID</source>
+        <translation>ID hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove ID</source>
+        <translation>ID entfernen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Current boot boost Ids:</source>
+        <translation>Aktuelle Boot-Boost-IDs:</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>CPU idle states</source>
+        <translation>CPU-Ruhezustände</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disable (battery mode)</source>
+        <translation>Ausschalten (Akkubetrieb)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disable (mains mode)</source>
+        <translation>Ausschalten (Netzbetrieb)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Allow thread for performance optimization (IPO)</source>
+        <translation>Thread zur Leistungsoptimierung erlauben (IPO)</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Multicast</source>
+        <translation>Multicast</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable read-only multicast</source>
+        <translation>Nur-Lese-Multicast einschalten</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Trusted pairing</source>
+        <translation>Vertrauenswürdige Kopplung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable trusted pairing mode</source>
+        <translation>Vertrauenswürdige Kopplung einschalten</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Driver</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Debug output...</source>
+        <translation>Debug-Ausgabe...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver flags...</source>
+        <translation>Treiber-Flags...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reread driver settings</source>
+        <translation>Treibereinstellungen neu lesen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Makes the driver read its settings files again.</source>
+        <translation>Lässt den Treiber seine Einstellungsdateien neu lesen.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reread TCP/IP settings</source>
+        <translation>TCP/IP-Einstellungen neu lesen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Makes the driver read the network adapters&apos; TCP/IP settings again.</source>
+        <translation>Lässt den Treiber die TCP/IP-Einstellungen der Netzwerkadapter neu lesen.</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>Mit erhöhten Rechten neu starten!</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <location line="+20"/>
+        <location line="+18"/>
+        <location line="+8"/>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="-36"/>
+        <location line="+3"/>
+        <source>Wrong ID</source>
+        <translation>Falsche ID</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>&quot;%1&quot; is not a camera ID.</source>
+        <translation>„%1“ ist keine Kamera-ID.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The ID %1 has to be between with %2 and %3</source>
+        <translation>Die ID %1 muss zwischen %2 und %3 liegen</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <location line="+18"/>
+        <location line="+35"/>
+        <location line="+12"/>
+        <location line="+11"/>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="-58"/>
+        <source>Failed to set IPO state! Return code: %1</source>
+        <translation>Der IPO-Zustand konnte nicht gesetzt werden! Rückgabewert: %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Please restart</source>
+        <translation>Bitte neu starten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Please restart the system manually to apply this setting.</source>
+        <translation>Bitte starten Sie das System von Hand neu, damit diese Einstellung wirksam wird.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>privileged feature</source>
+        <translation>Funktion mit erhöhten Rechten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To use this feature, 
+start the %1 with
+elevated privileges e.g root or admin!</source>
+        <translation>Um diese Funktion zu nutzen, 
+starten Sie %1 mit
+erhöhten Rechten, z. B. als root oder Administrator!</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+7"/>
+        <source>Memory compatibility mode</source>
+        <translation>Speicher-Kompatibilitätsmodus</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>The image memory compatibility mode could not be changed!
+Error code: %1</source>
+        <translation>Der Bildspeicher-Kompatibilitätsmodus konnte nicht geändert werden!
+Fehlercode: %1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>To completely adopt the compatibility mode please reboot your system or reconnect all cameras!</source>
+        <translation>Damit der Kompatibilitätsmodus vollständig wirkt, starten Sie bitte das System neu oder schließen Sie alle Kameras neu an!</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Setting trusted pairing mode failed with code: %1</source>
+        <translation>Das Einstellen der vertrauenswürdigen Kopplung ist mit Code %1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <location line="+7"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
     <name>ArpProber</name>
     <message>
-        <location filename="../../src/network/arpprober.cpp" line="+45"/>
+        <location filename="../../src/network/arpprober.cpp" line="+44"/>
         <source>The adapter %1 has no IPv4 address.</source>
         <translation>Der Adapter %1 hat keine IPv4-Adresse.</translation>
     </message>
@@ -367,6 +653,23 @@
         <location line="+12"/>
         <source>No host answered for %1 on adapter %2 within %3 ms.</source>
         <translation>Kein Gerät hat innerhalb von %3 ms für %1 am Adapter %2 geantwortet.</translation>
+    </message>
+</context>
+<context>
+    <name>BootBoostIdList</name>
+    <message>
+        <location filename="../../src/driver/bootboostidlist.cpp" line="+83"/>
+        <source>The IDs %1 could not be added to the boot boost list.
+Return code: %2</source>
+        <translation>Die IDs %1 konnten nicht in die Boot-Boost-Liste aufgenommen werden.
+Rückgabewert: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The IDs %1 could not be removed from the boot boost list.
+Return code: %2</source>
+        <translation>Die IDs %1 konnten nicht aus der Boot-Boost-Liste entfernt werden.
+Rückgabewert: %2</translation>
     </message>
 </context>
 <context>
@@ -522,6 +825,19 @@ Rückgabecode: %1</translation>
         <location line="+51"/>
         <source>Yes (BB)</source>
         <translation>Ja (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxEx</name>
+    <message>
+        <location filename="../../src/driver/widgets/checkboxex.cpp" line="+36"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>Mit erhöhten Rechten neu starten!</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
     </message>
 </context>
 <context>
@@ -1303,7 +1619,7 @@ den Adapter mit der Adresse %2 / %3!
 Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethconfig.cpp" line="+77"/>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+78"/>
         <source>Manual ETH Configuration</source>
         <translation>Manuelle ETH-Konfiguration</translation>
     </message>
@@ -1323,7 +1639,7 @@ Möchten Sie trotzdem fortfahren?</translation>
         <translation>Status</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+12"/>
         <source>Adapter settings</source>
         <translation>Adaptereinstellungen</translation>
     </message>
@@ -1333,12 +1649,12 @@ Möchten Sie trotzdem fortfahren?</translation>
         <translation>Beginn des IP-Bereichs</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-61"/>
         <source>Suggest</source>
         <translation>Vorschlagen</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+62"/>
         <source>IP range end</source>
         <translation>Ende des IP-Bereichs</translation>
     </message>
@@ -1508,7 +1824,7 @@ Code %1</translation>
         <translation>Multicast-Aktivierung wird übernommen...</translation>
     </message>
     <message>
-        <location line="+84"/>
+        <location line="+91"/>
         <source>Done!</source>
         <translation>Fertig!</translation>
     </message>
@@ -1533,7 +1849,7 @@ Return code: %1</source>
 Rückgabecode: %1</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+44"/>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+45"/>
         <source>Network configuration</source>
         <translation>Netzwerkkonfiguration</translation>
     </message>
@@ -1543,7 +1859,7 @@ Rückgabecode: %1</translation>
         <translation>Status</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+11"/>
         <source>Daemon control</source>
         <translation>Dienststeuerung</translation>
     </message>
@@ -1568,7 +1884,7 @@ Rückgabecode: %1</translation>
         <translation>Hinweise</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+16"/>
         <source>MAC address</source>
         <translation>MAC-Adresse</translation>
     </message>
@@ -1628,7 +1944,7 @@ Rückgabecode: %1</translation>
         <translation>Netzwerkadapter</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>service</source>
         <translation>Dienst</translation>
     </message>
@@ -1743,9 +2059,22 @@ Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
 <context>
     <name>EthServiceBindings</name>
     <message>
-        <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
+        <location filename="../../src/network/ethservicebindings.cpp" line="+48"/>
         <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
         <translation>Die Einstellungen des ETH-Dienstes in %1 können nicht geändert werden. Starten Sie die Anwendung mit erhöhten Rechten neu!</translation>
+    </message>
+</context>
+<context>
+    <name>FlagsCtrl</name>
+    <message>
+        <location filename="../../src/driver/widgets/flagsctrl.cpp" line="+16"/>
+        <source>Driver flags</source>
+        <translation>Treiber-Flags</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Flags</source>
+        <translation>Flags</translation>
     </message>
 </context>
 <context>
@@ -1780,6 +2109,24 @@ Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
         <location line="+4"/>
         <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
         <translation>Die ARP-Anfrage nach %1 am Netzwerkadapter %2 ist fehlgeschlagen: %3</translation>
+    </message>
+</context>
+<context>
+    <name>IniDocument</name>
+    <message>
+        <location filename="../../src/common/inidocument.cpp" line="+114"/>
+        <source>not text (a control character or invalid UTF-8)</source>
+        <translation>kein Text (ein Steuerzeichen oder ungültiges UTF-8)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>a group name must stand between [ and ]</source>
+        <translation>ein Gruppenname muss zwischen [ und ] stehen</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&quot;%1&quot; is neither a [group], a key=value pair nor a comment</source>
+        <translation>„%1“ ist weder eine [Gruppe] noch ein Schlüssel=Wert-Paar noch ein Kommentar</translation>
     </message>
 </context>
 <context>
@@ -1860,7 +2207,7 @@ Fehlercode: %2</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+237"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+239"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -1921,9 +2268,377 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Automatische Konfiguration und Boot Boost sind nicht kompatibel!</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+32"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
+    </message>
+</context>
+<context>
+    <name>QDebugOutCtrl</name>
+    <message>
+        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+23"/>
+        <source>Debug output</source>
+        <translation>Debug-Ausgabe</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Device type</source>
+        <translation>Gerätetyp</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ETH</source>
+        <translation>ETH</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The mask as a hexadecimal number; press Enter to set the boxes from it.</source>
+        <translation>Die Maske als Hexadezimalzahl; mit der Eingabetaste werden die Kästchen danach gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Configuration flags</source>
+        <translation>Konfigurations-Flags</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+2"/>
+        <source>Bit %1</source>
+        <translation>Bit %1</translation>
+    </message>
+    <message>
+        <location line="+56"/>
+        <source>Permission error</source>
+        <translation>Berechtigungsfehler</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Can&apos;t write value. Destination is write-protected. If you have insufficient permission, please run under elevated mode!</source>
+        <translation>Der Wert kann nicht geschrieben werden. Das Ziel ist schreibgeschützt. Wenn Ihre Rechte nicht ausreichen, starten Sie bitte mit erhöhten Rechten!</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location filename="../../api/driversettings/debugcategories.cpp" line="+11"/>
+        <source>All IOCTL calls</source>
+        <translation>All IOCTL calls</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>subsys: transport</source>
+        <translation>subsys: transport</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PnP commands</source>
+        <translation>PnP commands</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Power requests</source>
+        <translation>Power requests</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device start/stop</source>
+        <translation>Device start/stop</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver entry</source>
+        <translation>Driver entry</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>commons</source>
+        <translation>commons</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cirro messages</source>
+        <translation>Cirro messages</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Firmware management</source>
+        <translation>Firmware management</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>FX2 stuff</source>
+        <translation>FX2 stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Interface high level</source>
+        <translation>Interface high level</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Interface low level</source>
+        <translation>Interface low level</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transfer interface</source>
+        <translation>transfer interface</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capture</source>
+        <translation>capture</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>thread init exit</source>
+        <translation>thread init exit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot process</source>
+        <translation>Boot process</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device stuff</source>
+        <translation>Device stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>I/O count</source>
+        <translation>I/O count</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Function return status</source>
+        <translation>Function return status</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>WMI stuff</source>
+        <translation>WMI stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device list</source>
+        <translation>Device list</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Trigger stuff</source>
+        <translation>Trigger stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>I2C commands</source>
+        <translation>I2C commands</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>TimingBoard Rev. 3 FPGA</source>
+        <translation>TimingBoard Rev. 3 FPGA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>SPI</source>
+        <translation>SPI</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote event manager</source>
+        <translation>Remote event manager</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Flash data</source>
+        <translation>Flash data</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Memory board</source>
+        <translation>Memory board</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>dump object</source>
+        <translation>dump object</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NDIS</source>
+        <translation>NDIS</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transfer requests</source>
+        <translation>transfer requests</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>SONY MCB</source>
+        <translation>SONY MCB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget dispatcher</source>
+        <translation>crget dispatcher</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>cmd channel</source>
+        <translation>cmd channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget upload</source>
+        <translation>crget upload</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>message channel</source>
+        <translation>message channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>stream channel</source>
+        <translation>stream channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRTH</source>
+        <translation>CRTH</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRTH PRNG</source>
+        <translation>CRTH PRNG</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRSBET Channel One</source>
+        <translation>CRSBET Channel One</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRSBET Channel One RX/TX</source>
+        <translation>CRSBET Channel One RX/TX</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>eth device mgt</source>
+        <translation>eth device mgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>eth device</source>
+        <translation>eth device</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reference</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Memory Content</source>
+        <translation>Memory Content</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng imgbufmgt</source>
+        <translation>capeng imgbufmgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng imgbuf</source>
+        <translation>capeng imgbuf</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng capctrl</source>
+        <translation>capeng capctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transeng transctrl</source>
+        <translation>transeng transctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>camctrl</source>
+        <translation>camctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng block mgt</source>
+        <translation>capeng block mgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>feature</source>
+        <translation>feature</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Strch2</source>
+        <translation>Strch2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>device management</source>
+        <translation>device management</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>test</source>
+        <translation>test</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget cmd</source>
+        <translation>crget cmd</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>unused</source>
+        <translation>unbenutzt</translation>
     </message>
 </context>
 <context>
@@ -1942,6 +2657,58 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>Der Dienst %1 konnte nicht beendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceSettingsFile</name>
+    <message>
+        <location filename="../../src/common/servicesettingsfile.cpp" line="+41"/>
+        <source>The settings file %1 can&apos;t be used: %2</source>
+        <translation>Die Einstellungsdatei %1 kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine reguläre Datei</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+6"/>
+        <source>it is larger than %1 KB</source>
+        <translation>sie ist größer als %1 KB</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>The settings file %1 is write-protected.</source>
+        <translation>Die Einstellungsdatei %1 ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The settings file %1 holds &quot;%2&quot; in line %3 where a number belongs.</source>
+        <translation>Die Einstellungsdatei %1 enthält in Zeile %3 „%2“, wo eine Zahl stehen muss.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The settings file %1 could not be written: %2</source>
+        <translation>Die Einstellungsdatei %1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>its directory could not be created</source>
+        <translation>ihr Verzeichnis konnte nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFileNotice</name>
+    <message>
+        <location filename="../../src/driver/widgets/settingsfilenotice.cpp" line="+30"/>
+        <source>The drivers&apos; settings files in %1 are shown but can&apos;t be changed: restart with elevated privileges!</source>
+        <translation>Die Einstellungsdateien der Treiber in %1 werden angezeigt, können aber nicht geändert werden: mit erhöhten Rechten neu starten!</translation>
     </message>
 </context>
 <context>
@@ -2176,7 +2943,7 @@ Verwenden Sie eine neuere lib%4!</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+54"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+42"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>Der Kameratreiber hat die Geräteereignisse der Kameraliste abgelehnt.

@@ -332,9 +332,295 @@
     </message>
 </context>
 <context>
+    <name>AdditionalFunctions</name>
+    <message>
+        <location filename="../../src/driver/bootboost.cpp" line="+30"/>
+        <source>Could not read the boot boost state: %1</source>
+        <translation>无法读取启动加速状态：%1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Could not enable boot boost: %1</source>
+        <translation>无法启用启动加速：%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Could not disable boot boost: %1</source>
+        <translation>无法禁用启动加速：%1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Could not clear the boot boost list: %1</source>
+        <translation>无法清空启动加速列表：%1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+3"/>
+        <location line="+4"/>
+        <source>Could not read the boot boost list: %1</source>
+        <translation>无法读取启动加速列表：%1</translation>
+    </message>
+    <message>
+        <location filename="../../src/driver/driverconfiguration.cpp" line="+71"/>
+        <source>Setting read-only multicast failed with code: %1</source>
+        <translation>设置只读组播失败，代码：%1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>pv_FetchRegistryValues() returned %1</source>
+        <translation>pv_FetchRegistryValues() 返回 %1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>onFetchTcpIp() returned %1</source>
+        <translation>onFetchTcpIp() 返回 %1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Failed to set Idle state! Return code: %1</source>
+        <translation>设置空闲状态失败！返回码：%1</translation>
+    </message>
+    <message>
+        <location filename="../../src/driver/widgets/additionalfunctions.cpp" line="+40"/>
+        <source>Additional functions</source>
+        <translation>附加功能</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Image memory</source>
+        <translation>图像内存</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Compatibility mode</source>
+        <translation>兼容模式</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Bulk Transfer Size</source>
+        <translation>批量传输大小</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Boot boost</source>
+        <translation>启动加速</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enable</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>e.g. 3;5-7</source>
+        <translation>例如 3;5-7</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera IDs from 1 to 254, separated by &quot;;&quot;; &quot;5-7&quot; stands for 5, 6 and 7.</source>
+        <translation>相机 ID 为 1 到 254，用“;”分隔；“5-7”表示 5、6 和 7。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set ID list</source>
+        <translation>设置 ID 列表</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Clear ID list</source>
+        <translation>清空 ID 列表</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add ID</source>
+        <translation>添加 ID</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove ID</source>
+        <translation>移除 ID</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Current boot boost Ids:</source>
+        <translation>当前启动加速 ID：</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>CPU idle states</source>
+        <translation>CPU 空闲状态</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disable (battery mode)</source>
+        <translation>禁用（电池模式）</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disable (mains mode)</source>
+        <translation>禁用（电源模式）</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Allow thread for performance optimization (IPO)</source>
+        <translation>允许性能优化线程（IPO）</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Multicast</source>
+        <translation>组播</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable read-only multicast</source>
+        <translation>启用只读组播</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Trusted pairing</source>
+        <translation>可信配对</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enable trusted pairing mode</source>
+        <translation>启用可信配对模式</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Driver</source>
+        <translation>驱动程序</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Debug output...</source>
+        <translation>调试输出...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver flags...</source>
+        <translation>驱动程序标志...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reread driver settings</source>
+        <translation>重新读取驱动程序设置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Makes the driver read its settings files again.</source>
+        <translation>让驱动程序重新读取其设置文件。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reread TCP/IP settings</source>
+        <translation>重新读取 TCP/IP 设置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Makes the driver read the network adapters&apos; TCP/IP settings again.</source>
+        <translation>让驱动程序重新读取网络适配器的 TCP/IP 设置。</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>请以提升的权限重新启动！</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <location line="+20"/>
+        <location line="+18"/>
+        <location line="+8"/>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location line="-36"/>
+        <location line="+3"/>
+        <source>Wrong ID</source>
+        <translation>错误的 ID</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>&quot;%1&quot; is not a camera ID.</source>
+        <translation>“%1”不是相机 ID。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The ID %1 has to be between with %2 and %3</source>
+        <translation>ID %1 必须介于 %2 和 %3 之间</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <location line="+18"/>
+        <location line="+35"/>
+        <location line="+12"/>
+        <location line="+11"/>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <location line="-58"/>
+        <source>Failed to set IPO state! Return code: %1</source>
+        <translation>设置 IPO 状态失败！返回码：%1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Please restart</source>
+        <translation>请重新启动</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Please restart the system manually to apply this setting.</source>
+        <translation>请手动重新启动系统以应用此设置。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>privileged feature</source>
+        <translation>特权功能</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>To use this feature, 
+start the %1 with
+elevated privileges e.g root or admin!</source>
+        <translation>要使用此功能，
+请以提升的权限（例如 root 或管理员）
+启动 %1！</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+7"/>
+        <source>Memory compatibility mode</source>
+        <translation>内存兼容模式</translation>
+    </message>
+    <message>
+        <location line="-6"/>
+        <source>The image memory compatibility mode could not be changed!
+Error code: %1</source>
+        <translation>无法更改图像内存兼容模式！
+错误代码：%1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>To completely adopt the compatibility mode please reboot your system or reconnect all cameras!</source>
+        <translation>要完全启用兼容模式，请重新启动系统或重新连接所有相机！</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Setting trusted pairing mode failed with code: %1</source>
+        <translation>设置可信配对模式失败，代码：%1</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <location line="+7"/>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
     <name>ArpProber</name>
     <message>
-        <location filename="../../src/network/arpprober.cpp" line="+45"/>
+        <location filename="../../src/network/arpprober.cpp" line="+44"/>
         <source>The adapter %1 has no IPv4 address.</source>
         <translation>适配器 %1 没有 IPv4 地址。</translation>
     </message>
@@ -367,6 +653,23 @@
         <location line="+12"/>
         <source>No host answered for %1 on adapter %2 within %3 ms.</source>
         <translation>适配器 %2 上没有主机在 %3 毫秒内应答 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>BootBoostIdList</name>
+    <message>
+        <location filename="../../src/driver/bootboostidlist.cpp" line="+83"/>
+        <source>The IDs %1 could not be added to the boot boost list.
+Return code: %2</source>
+        <translation>无法将 ID %1 添加到启动加速列表。
+返回码：%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The IDs %1 could not be removed from the boot boost list.
+Return code: %2</source>
+        <translation>无法从启动加速列表中移除 ID %1。
+返回码：%2</translation>
     </message>
 </context>
 <context>
@@ -522,6 +825,19 @@ Return code: %1</source>
         <location line="+51"/>
         <source>Yes (BB)</source>
         <translation>是 (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>CheckBoxEx</name>
+    <message>
+        <location filename="../../src/driver/widgets/checkboxex.cpp" line="+36"/>
+        <source>Restart with elevated privileges!</source>
+        <translation>请以提升的权限重新启动！</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Failed</source>
+        <translation>失败</translation>
     </message>
 </context>
 <context>
@@ -1303,7 +1619,7 @@ Do you want to continue anyway?</source>
 是否仍要继续？</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethconfig.cpp" line="+77"/>
+        <location filename="../../src/network/widgets/ethconfig.cpp" line="+78"/>
         <source>Manual ETH Configuration</source>
         <translation>手动 ETH 配置</translation>
     </message>
@@ -1323,7 +1639,7 @@ Do you want to continue anyway?</source>
         <translation>状态</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+12"/>
         <source>Adapter settings</source>
         <translation>适配器设置</translation>
     </message>
@@ -1333,12 +1649,12 @@ Do you want to continue anyway?</source>
         <translation>IP 范围起始地址</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-61"/>
         <source>Suggest</source>
         <translation>建议</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+62"/>
         <source>IP range end</source>
         <translation>IP 范围结束地址</translation>
     </message>
@@ -1508,7 +1824,7 @@ code %1</source>
         <translation>正在应用组播启用设置...</translation>
     </message>
     <message>
-        <location line="+84"/>
+        <location line="+91"/>
         <source>Done!</source>
         <translation>完成！</translation>
     </message>
@@ -1533,7 +1849,7 @@ Return code: %1</source>
 返回代码：%1</translation>
     </message>
     <message>
-        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+44"/>
+        <location filename="../../src/network/widgets/ethdaemonconfig.cpp" line="+45"/>
         <source>Network configuration</source>
         <translation>网络配置</translation>
     </message>
@@ -1543,7 +1859,7 @@ Return code: %1</source>
         <translation>状态</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+11"/>
         <source>Daemon control</source>
         <translation>服务控制</translation>
     </message>
@@ -1568,7 +1884,7 @@ Return code: %1</source>
         <translation>备注</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+16"/>
         <source>MAC address</source>
         <translation>MAC 地址</translation>
     </message>
@@ -1628,7 +1944,7 @@ Return code: %1</source>
         <translation>网络适配器</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+33"/>
         <source>service</source>
         <translation>服务</translation>
     </message>
@@ -1743,9 +2059,22 @@ Please set the packet size to at least 2 KB.</source>
 <context>
     <name>EthServiceBindings</name>
     <message>
-        <location filename="../../src/network/ethservicebindings.cpp" line="+47"/>
+        <location filename="../../src/network/ethservicebindings.cpp" line="+48"/>
         <source>The ETH service settings in %1 can&apos;t be changed. Restart with elevated privileges!</source>
         <translation>无法更改 %1 中的 ETH 服务设置。请使用提升的权限重新启动！</translation>
+    </message>
+</context>
+<context>
+    <name>FlagsCtrl</name>
+    <message>
+        <location filename="../../src/driver/widgets/flagsctrl.cpp" line="+16"/>
+        <source>Driver flags</source>
+        <translation>驱动程序标志</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Flags</source>
+        <translation>标志</translation>
     </message>
 </context>
 <context>
@@ -1780,6 +2109,24 @@ Please set the packet size to at least 2 KB.</source>
         <location line="+4"/>
         <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
         <translation>在网络适配器 %2 上对 %1 的 ARP 请求失败：%3</translation>
+    </message>
+</context>
+<context>
+    <name>IniDocument</name>
+    <message>
+        <location filename="../../src/common/inidocument.cpp" line="+114"/>
+        <source>not text (a control character or invalid UTF-8)</source>
+        <translation>不是文本（控制字符或无效的 UTF-8）</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>a group name must stand between [ and ]</source>
+        <translation>组名必须位于 [ 和 ] 之间</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&quot;%1&quot; is neither a [group], a key=value pair nor a comment</source>
+        <translation>“%1”既不是 [组]，也不是 键=值 对，也不是注释</translation>
     </message>
 </context>
 <context>
@@ -1860,7 +2207,7 @@ Errorcode: %2</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+237"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+239"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -1921,9 +2268,377 @@ This operation may take up to 10 seconds.</source>
         <translation>自动配置与 Boot boost 不兼容！</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+32"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
+    </message>
+</context>
+<context>
+    <name>QDebugOutCtrl</name>
+    <message>
+        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+23"/>
+        <source>Debug output</source>
+        <translation>调试输出</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Device type</source>
+        <translation>设备类型</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>ETH</source>
+        <translation>ETH</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The mask as a hexadecimal number; press Enter to set the boxes from it.</source>
+        <translation>以十六进制数表示的掩码；按回车键按其设置复选框。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Configuration flags</source>
+        <translation>配置标志</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+2"/>
+        <source>Bit %1</source>
+        <translation>位 %1</translation>
+    </message>
+    <message>
+        <location line="+56"/>
+        <source>Permission error</source>
+        <translation>权限错误</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Can&apos;t write value. Destination is write-protected. If you have insufficient permission, please run under elevated mode!</source>
+        <translation>无法写入值。目标受写保护。如果权限不足，请以提升的权限运行！</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location filename="../../api/driversettings/debugcategories.cpp" line="+11"/>
+        <source>All IOCTL calls</source>
+        <translation>All IOCTL calls</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>subsys: transport</source>
+        <translation>subsys: transport</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PnP commands</source>
+        <translation>PnP commands</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Power requests</source>
+        <translation>Power requests</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device start/stop</source>
+        <translation>Device start/stop</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver entry</source>
+        <translation>Driver entry</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>commons</source>
+        <translation>commons</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cirro messages</source>
+        <translation>Cirro messages</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Firmware management</source>
+        <translation>Firmware management</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>FX2 stuff</source>
+        <translation>FX2 stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Interface high level</source>
+        <translation>Interface high level</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Interface low level</source>
+        <translation>Interface low level</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transfer interface</source>
+        <translation>transfer interface</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capture</source>
+        <translation>capture</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>thread init exit</source>
+        <translation>thread init exit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Boot process</source>
+        <translation>Boot process</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device stuff</source>
+        <translation>Device stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>I/O count</source>
+        <translation>I/O count</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Function return status</source>
+        <translation>Function return status</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>WMI stuff</source>
+        <translation>WMI stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device list</source>
+        <translation>Device list</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Trigger stuff</source>
+        <translation>Trigger stuff</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>I2C commands</source>
+        <translation>I2C commands</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>TimingBoard Rev. 3 FPGA</source>
+        <translation>TimingBoard Rev. 3 FPGA</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>SPI</source>
+        <translation>SPI</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote event manager</source>
+        <translation>Remote event manager</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Flash data</source>
+        <translation>Flash data</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Memory board</source>
+        <translation>Memory board</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>dump object</source>
+        <translation>dump object</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>NDIS</source>
+        <translation>NDIS</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transfer requests</source>
+        <translation>transfer requests</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>SONY MCB</source>
+        <translation>SONY MCB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget dispatcher</source>
+        <translation>crget dispatcher</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>cmd channel</source>
+        <translation>cmd channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget upload</source>
+        <translation>crget upload</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>message channel</source>
+        <translation>message channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>stream channel</source>
+        <translation>stream channel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRTH</source>
+        <translation>CRTH</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRTH PRNG</source>
+        <translation>CRTH PRNG</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRSBET Channel One</source>
+        <translation>CRSBET Channel One</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CRSBET Channel One RX/TX</source>
+        <translation>CRSBET Channel One RX/TX</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>eth device mgt</source>
+        <translation>eth device mgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>eth device</source>
+        <translation>eth device</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reference</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Memory Content</source>
+        <translation>Memory Content</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng imgbufmgt</source>
+        <translation>capeng imgbufmgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng imgbuf</source>
+        <translation>capeng imgbuf</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng capctrl</source>
+        <translation>capeng capctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>transeng transctrl</source>
+        <translation>transeng transctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>camctrl</source>
+        <translation>camctrl</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>capeng block mgt</source>
+        <translation>capeng block mgt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>feature</source>
+        <translation>feature</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Strch2</source>
+        <translation>Strch2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>device management</source>
+        <translation>device management</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>test</source>
+        <translation>test</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>crget cmd</source>
+        <translation>crget cmd</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <source>unused</source>
+        <translation>未使用</translation>
     </message>
 </context>
 <context>
@@ -1942,6 +2657,58 @@ This operation may take up to 10 seconds.</source>
         <location line="+1"/>
         <source>The service %1 could not be stopped: %2</source>
         <translation>无法停止服务 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceSettingsFile</name>
+    <message>
+        <location filename="../../src/common/servicesettingsfile.cpp" line="+41"/>
+        <source>The settings file %1 can&apos;t be used: %2</source>
+        <translation>无法使用设置文件 %1：%2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>it is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+6"/>
+        <source>it is larger than %1 KB</source>
+        <translation>它大于 %1 KB</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>The settings file %1 is write-protected.</source>
+        <translation>设置文件 %1 受写保护。</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The settings file %1 holds &quot;%2&quot; in line %3 where a number belongs.</source>
+        <translation>设置文件 %1 的第 %3 行应为数字，却是“%2”。</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The settings file %1 could not be written: %2</source>
+        <translation>无法写入设置文件 %1：%2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>its directory could not be created</source>
+        <translation>无法创建其目录</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFileNotice</name>
+    <message>
+        <location filename="../../src/driver/widgets/settingsfilenotice.cpp" line="+30"/>
+        <source>The drivers&apos; settings files in %1 are shown but can&apos;t be changed: restart with elevated privileges!</source>
+        <translation>%1 中的驱动程序设置文件仅供查看，无法更改：请以提升的权限重新启动！</translation>
     </message>
 </context>
 <context>
@@ -2176,7 +2943,7 @@ lib%4_api &lt; %2.%3 配合使用！
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+54"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+42"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>相机驱动程序拒绝了相机列表的设备事件。

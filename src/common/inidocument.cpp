@@ -6,7 +6,7 @@
 
 namespace {
 
-QString translate(const char* text)
+QString localized(const char* text)
 {
     return QCoreApplication::translate("IniDocument", text);
 }
@@ -111,20 +111,20 @@ std::optional<IniDocument> IniDocument::parse(const QByteArray& text, ParseError
         };
         const auto decoded = utf8Text(raw);
         if (!decoded)
-            return fail(translate("not text (a control character or invalid UTF-8)"));
+            return fail(localized(QT_TRANSLATE_NOOP("IniDocument", "not text (a control character or invalid UTF-8)")));
         const QString line = decoded->trimmed();
         Line entry{raw, group, QString(), false};
         if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#'))) {
             // blank or comment
         } else if (line.startsWith(QLatin1Char('['))) {
             if (!line.endsWith(QLatin1Char(']')) || line.size() < 3)
-                return fail(translate("a group name must stand between [ and ]"));
+                return fail(localized(QT_TRANSLATE_NOOP("IniDocument", "a group name must stand between [ and ]")));
             group = decodedName(line.mid(1, line.size() - 2).trimmed());
             entry = Line{raw, group, QString(), true};
         } else {
             const int equals = line.indexOf(QLatin1Char('='));
             if (equals <= 0)
-                return fail(translate("\"%1\" is neither a [group], a key=value pair nor a comment").arg(line.left(60)));
+                return fail(localized(QT_TRANSLATE_NOOP("IniDocument", "\"%1\" is neither a [group], a key=value pair nor a comment")).arg(line.left(60)));
             entry.name = decodedName(line.left(equals).trimmed());
         }
         document.m_lines.push_back(std::move(entry));
