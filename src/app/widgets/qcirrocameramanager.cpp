@@ -446,6 +446,7 @@ void QCirroCameramanager::OnAdditionalFunctionsDlg()
     Elevation::request(true, QStringLiteral("--additional-func"), this);
     AdditionalFunctions dialog(this);
     dialog.exec();
+    updateDetails(false); // boot boost and multicast settings show in a camera's state
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)
