@@ -73,6 +73,49 @@ Result finishUpload(SimDriver& driver, std::uint32_t deviceId, std::uint32_t& ha
     });
 }
 
+// Opens a present camera, uploading the starter firmware first when asked or
+// when the driver's settings call for it.
+Result openDevice(SimDriver& driver, std::uint32_t deviceId, bool uploadRequested, std::uint32_t& handle)
+{
+    bool uploading = false;
+    std::uint8_t typeCode = 0;
+    Result result = driver.change([&](Fleet& fleet) {
+        SimCamera* camera = fleet.visible(deviceId);
+        if (!camera)
+            return failure(PV_ERR_UNKNOWN_DEVICE, "no camera with device ID " + std::to_string(deviceId));
+        if (Result r = checkOpenable(*camera); !r.ok())
+            return r;
+        typeCode = camera->typeCode;
+        const bool autoUpload = camera->kind == CameraKind::Eth && (camera->deviceFlags & PV_DEVFLAG_UPLOAD_PENDING)
+                                && fleet.settings.registryFlag("cirro_eth", "AllowAutoStarterFwUpload");
+        if (uploadRequested || autoUpload) {
+            uploading = true;
+            return startUpload(*camera, fleet.settings);
+        }
+        if (camera->isEthernet() && !(camera->deviceControl & PV_CONTROL_AVAILABLE))
+            return failure(PV_ERR_DEVICE_UNREACHABLE, "camera " + std::to_string(deviceId) + " can't be reached");
+        camera->openHandle = handle = driver.newHandle();
+        return success();
+    });
+    if (!result.ok() || !uploading)
+        return result;
+
+    const auto duration = driver.scaled(firmwareUploadDuration(typeCode));
+    driver.tracer().trace(serviceOfDevice(deviceId), TraceCategory::firmware, [&] {
+        return "starter firmware upload to device " + std::to_string(deviceId) + " started, "
+               + std::to_string(duration.count()) + " ms";
+    });
+    std::this_thread::sleep_for(duration);
+    std::uint32_t opened = 0;
+    result = finishUpload(driver, deviceId, opened);
+    driver.tracer().trace(serviceOfDevice(deviceId), TraceCategory::firmware, [&] {
+        return "starter firmware upload to device " + std::to_string(deviceId) + " ended: " + outcome(result);
+    });
+    if (result.ok())
+        handle = opened;
+    return result;
+}
+
 } // namespace
 
 std::chrono::milliseconds firmwareUploadDuration(std::uint8_t typeCode)
@@ -92,6 +135,8 @@ Result getNumberOfCameras(SimDriver& driver, std::int32_t* count)
     if (!count)
         return failure(PV_ERR_NULL_POINTER, "pv_GetNumberOfCameras: count is null");
     *count = driver.read([](Fleet& fleet) { return std::int32_t(fleet.visibleCameras().size()); });
+    driver.tracer().trace(TraceService::Usb, TraceCategory::deviceList,
+                          [&] { return std::to_string(*count) + " devices present"; });
     return success();
 }
 
@@ -113,6 +158,10 @@ Result getCameraList(SimDriver& driver, void* listBuffer)
             std::memcpy(entries + std::size_t(i) * sizeof entry, &entry, sizeof entry);
         }
         std::memcpy(listBuffer, &filled, sizeof filled);
+        driver.tracer().trace(TraceService::Usb, TraceCategory::deviceList, [&] {
+            return "device list: " + std::to_string(filled) + " of " + std::to_string(cameras.size())
+                   + " devices handed out";
+        });
         return success();
     });
 }
@@ -125,48 +174,32 @@ Result openCamera(SimDriver& driver, std::uint32_t* handle, void*)
     if ((word & PV_DEVICE_ID_FLAG) == 0 || (word & ~(openFlags | 0x7FFFu)) != 0)
         return failure(PV_ERR_INVALID_PARAMETER, "pv_OpenCamera: the handle word must be deviceId | 0x8000");
     const std::uint32_t deviceId = word & 0x7FFFu;
-    const bool uploadRequested = (word & PV_OPEN_UPLOAD_STARTER_FIRMWARE) != 0;
-
-    bool uploading = false;
-    std::uint8_t typeCode = 0;
-    Result result = driver.change([&](Fleet& fleet) {
-        SimCamera* camera = fleet.visible(deviceId);
-        if (!camera)
-            return failure(PV_ERR_UNKNOWN_DEVICE, "no camera with device ID " + std::to_string(deviceId));
-        if (Result r = checkOpenable(*camera); !r.ok())
-            return r;
-        typeCode = camera->typeCode;
-        const bool autoUpload = camera->kind == CameraKind::Eth && (camera->deviceFlags & PV_DEVFLAG_UPLOAD_PENDING)
-                                && fleet.settings.registryFlag("cirro_eth", "AllowAutoStarterFwUpload");
-        if (uploadRequested || autoUpload) {
-            uploading = true;
-            return startUpload(*camera, fleet.settings);
-        }
-        if (camera->isEthernet() && !(camera->deviceControl & PV_CONTROL_AVAILABLE))
-            return failure(PV_ERR_DEVICE_UNREACHABLE, "camera " + std::to_string(deviceId) + " can't be reached");
-        camera->openHandle = *handle = driver.newHandle();
-        return success();
+    const Result result = openDevice(driver, deviceId, (word & PV_OPEN_UPLOAD_STARTER_FIRMWARE) != 0, *handle);
+    driver.tracer().trace(serviceOfDevice(deviceId), TraceCategory::startStop, [&] {
+        return "open device " + std::to_string(deviceId)
+               + (result.ok() ? " (handle " + hexNumber(*handle) + ")" : std::string()) + ": " + outcome(result);
     });
-    if (!result.ok() || !uploading)
-        return result;
-
-    std::this_thread::sleep_for(driver.scaled(firmwareUploadDuration(typeCode)));
-    std::uint32_t opened = 0;
-    result = finishUpload(driver, deviceId, opened);
-    if (result.ok())
-        *handle = opened;
     return result;
 }
 
 Result closeCamera(SimDriver& driver, std::uint32_t handle)
 {
-    return driver.change([&](Fleet& fleet) {
+    std::uint32_t deviceId = 0;
+    const Result result = driver.change([&](Fleet& fleet) {
         SimCamera* camera = nullptr;
-        Result result = fleet.resolveOpen(handle, camera);
-        if (result.ok())
+        Result r = fleet.resolveOpen(handle, camera);
+        if (r.ok()) {
+            deviceId = camera->deviceId;
             camera->openHandle = 0;
-        return result;
+        }
+        return r;
     });
+    // A handle that names no camera belongs to no device: the refusal is the USB service's.
+    driver.tracer().trace(serviceOfDevice(deviceId), TraceCategory::startStop, [&] {
+        return (result.ok() ? "close device " + std::to_string(deviceId) + " (handle " : "close (handle ")
+               + hexNumber(handle) + "): " + outcome(result);
+    });
+    return result;
 }
 
 Result getCameraInfo(SimDriver& driver, std::uint32_t handle, pv_CameraInfo* info)

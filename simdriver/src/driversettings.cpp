@@ -2,6 +2,10 @@
 
 #include "jsonreader.h"
 
+#include "driversettings/debugcategories.h"
+
+#include <QString>
+
 #include <cstdlib>
 
 namespace sim {
@@ -85,6 +89,22 @@ bool DriverSettings::registryFlag(const std::string& service, const std::string&
 {
     const auto it = registry.find(service + "/Parameters/" + value);
     return it != registry.end() && std::strtol(it->second.c_str(), nullptr, 0) != 0;
+}
+
+std::uint64_t DriverSettings::debugMask(const std::string& service) const
+{
+    const auto it = registry.find(service + '/' + DebugCategories::maskValue);
+    if (it == registry.end())
+        return 0;
+    const QString text = QString::fromStdString(it->second).trimmed();
+    const bool hex = text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
+    const QString digits = hex ? text.mid(2) : text;
+    // toULongLong would take a sign or a blank after the 0x, which no mask has.
+    if (digits.isEmpty() || !digits.at(0).isLetterOrNumber())
+        return 0;
+    bool ok = false;
+    const std::uint64_t mask = digits.toULongLong(&ok, hex ? 16 : 10);
+    return ok ? mask : 0;
 }
 
 } // namespace sim

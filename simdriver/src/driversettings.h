@@ -50,6 +50,8 @@ struct DriverSettings
         return bootBoostEnabled && cameraId <= 255 && bootBoostIds.count(std::uint8_t(cameraId)) > 0;
     }
     bool registryFlag(const std::string& service, const std::string& value) const;
+    // The service's DebugEnableMask, decimal or 0x-hexadecimal; 0 when missing or not a number.
+    std::uint64_t debugMask(const std::string& service) const;
 };
 
 // "4.97.1203"

@@ -325,6 +325,20 @@ bool isIpWrite(std::uint32_t command)
     return command == PV_IPCFG_SET_PERSISTENT || command == PV_IPCFG_SET_DHCP || command == PV_IPCFG_SET_RANGE;
 }
 
+// "device 1001: persistent IP 192.168.50.11 mask 255.255.255.0"
+std::string ipWriteText(const IpTarget& target, std::uint32_t command, const void* block)
+{
+    if (command == PV_IPCFG_SET_DHCP)
+        return "device " + std::to_string(target.camera->deviceId) + ": DHCP " + (readWord(block) ? "on" : "off");
+    const pv_IpBlock ip = readIpBlock(block);
+    const std::string first = NetAddress::formatIp(NetAddress::fromNetworkBytes(ip.first));
+    const std::string second = NetAddress::formatIp(NetAddress::fromNetworkBytes(ip.second));
+    if (command == PV_IPCFG_SET_PERSISTENT)
+        return "device " + std::to_string(target.camera->deviceId) + ": persistent IP " + first + " mask " + second;
+    return "adapter " + (target.adapter ? target.adapter->name : std::string("none")) + ": IP range " + first
+           + " - " + second;
+}
+
 std::map<std::uint32_t, std::uint32_t> targetAddresses(const Fleet& fleet)
 {
     std::map<std::uint32_t, std::uint32_t> targets;
@@ -391,6 +405,8 @@ Result ipConfig(SimDriver& driver, std::int32_t deviceId, const std::uint8_t* ma
         Result result = ipCommand(fleet, target, command, block);
         if (result.ok())
             startIpChanges(driver, fleet, before);
+        driver.tracer().trace(TraceService::Eth, TraceCategory::ethDevices,
+                              [&] { return ipWriteText(target, command, block) + ": " + outcome(result); });
         return result;
     });
 }

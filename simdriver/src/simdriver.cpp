@@ -62,7 +62,7 @@ Result SimDriver::load(Scenario scenario)
     return success();
 }
 
-void SimDriver::readConfiguration(Fleet& fleet) const
+void SimDriver::readConfiguration(Fleet& fleet)
 {
     // A value removed from the files is gone for the driver too.
     fleet.settings.registry.clear();
@@ -81,6 +81,8 @@ void SimDriver::readConfiguration(Fleet& fleet) const
                 adapter.bound = settings->value(name).toBool();
         }
     }
+    m_tracer.configure(fleet.settings.debugMask(DriverServiceSettings::usbService),
+                       fleet.settings.debugMask(DriverServiceSettings::ethService));
 }
 
 std::uint32_t SimDriver::newHandle()
@@ -103,6 +105,7 @@ void SimDriver::signalDifferences(const std::map<std::uint32_t, std::string>& be
     for (const auto& [id, print] : before) {
         const auto now = after.find(id);
         if (now == after.end()) {
+            tracePlug(id, "removed");
             m_events.signal(0, PV_EVENT_DEVICE_REMOVED);
             m_events.signal(EventHub::deviceScope(id), PV_EVENT_DEVICE_REMOVED);
         } else if (now->second != print) {
@@ -111,9 +114,17 @@ void SimDriver::signalDifferences(const std::map<std::uint32_t, std::string>& be
         }
     }
     for (const auto& [id, print] : after) {
-        if (before.count(id) == 0)
+        if (before.count(id) == 0) {
+            tracePlug(id, "arrived");
             m_events.signal(0, PV_EVENT_DEVICE_ARRIVED);
+        }
     }
+}
+
+void SimDriver::tracePlug(std::uint32_t deviceId, const char* what)
+{
+    m_tracer.trace(serviceOfDevice(deviceId), TraceCategory::pnp,
+                   [&] { return "device " + std::to_string(deviceId) + ' ' + what; });
 }
 
 void SimDriver::scheduleTimeline(const std::vector<TimelineEvent>& timeline)

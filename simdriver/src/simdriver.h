@@ -5,6 +5,7 @@
 #include "fleet.h"
 #include "scenario.h"
 #include "scheduler.h"
+#include "tracer.h"
 
 #include <atomic>
 #include <mutex>
@@ -37,12 +38,14 @@ public:
     }
 
     Result load(Scenario scenario);
-    // Reads the service configuration files: bindings and driver values.
-    void readConfiguration(Fleet& fleet) const;
+    // Reads the service configuration files: bindings, driver values and the
+    // debug output masks.
+    void readConfiguration(Fleet& fleet);
 
     EventHub& events() { return m_events; }
     FaultInjector& faults() { return m_faults; }
     Scheduler& scheduler() { return m_scheduler; }
+    Tracer& tracer() { return m_tracer; }
 
     std::uint32_t newHandle();
     double timeScale() const { return m_timeScale.load(); }
@@ -52,6 +55,7 @@ public:
 private:
     void signalDifferences(const std::map<std::uint32_t, std::string>& before,
                            const std::map<std::uint32_t, std::string>& after);
+    void tracePlug(std::uint32_t deviceId, const char* what);
     void scheduleTimeline(const std::vector<TimelineEvent>& timeline);
     void runTimelineEvent(const TimelineEvent& event);
 
@@ -62,6 +66,7 @@ private:
     std::atomic<double> m_timeScale{1.0};
     EventHub m_events;
     FaultInjector m_faults;
+    Tracer m_tracer;
     Scheduler m_scheduler; // last: its thread stops before the rest goes
 };
 
