@@ -4,16 +4,9 @@
 #include "driver/tracefiletail.h"
 
 #include "common/simulateddriver.h"
-#include "driversettings/driverservicesettings.h"
 #include "driversettings/drivertracefiles.h"
 
 #include <pvsim.h>
-
-QString DriverOutput::service(Driver driver)
-{
-    return QLatin1String(driver == Driver::Eth ? DriverServiceSettings::ethService
-                                               : DriverServiceSettings::usbService);
-}
 
 bool DriverOutput::isSimulated()
 {
@@ -22,21 +15,23 @@ bool DriverOutput::isSimulated()
 
 QString DriverOutput::destination(Driver driver)
 {
+    const QString service = DebugMask::service(driver);
     if (!isSimulated())
-        return HostDriverLog::destination(service(driver));
+        return HostDriverLog::destination(service);
     return tr("The simulated driver writes the trace lines of %1 to %2.")
-        .arg(service(driver), DriverTraceFiles::filePath(DriverTraceFiles::directory(), service(driver)));
+        .arg(service, DriverTraceFiles::filePath(DriverTraceFiles::directory(), service));
 }
 
 DriverOutput::Recent DriverOutput::recent(Driver driver, int maxLines)
 {
     maxLines = qMax(1, maxLines);
+    const QString service = DebugMask::service(driver);
     if (!isSimulated())
-        return HostDriverLog::recent(service(driver), maxLines);
+        return HostDriverLog::recent(service, maxLines);
     const QString directory = DriverTraceFiles::directory();
-    const QString file = DriverTraceFiles::filePath(directory, service(driver));
+    const QString file = DriverTraceFiles::filePath(directory, service);
     TraceFileTail::Lines tail =
-        TraceFileTail::read(file, DriverTraceFiles::previousFilePath(directory, service(driver)), maxLines);
+        TraceFileTail::read(file, DriverTraceFiles::previousFilePath(directory, service), maxLines);
     Recent recent;
     recent.result = tail.result;
     recent.source = tr("the trace file %1").arg(file);

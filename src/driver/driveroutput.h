@@ -1,5 +1,7 @@
 #pragma once
 
+#include "driver/debugmask.h"
+
 #include "common/result.h"
 
 #include <QCoreApplication>
@@ -13,7 +15,7 @@ class DriverOutput final
     Q_DECLARE_TR_FUNCTIONS(DriverOutput)
 
 public:
-    enum class Driver { Usb, Eth };
+    using Driver = DebugMask::Driver;
 
     struct Recent
     {
@@ -27,8 +29,6 @@ public:
         QStringList problems;
     };
 
-    // The driver's service: "cirro_usb" or "cirro_eth".
-    static QString service(Driver driver);
     // Whether the camera API library is the simulated driver.
     static bool isSimulated();
 
