@@ -8,7 +8,9 @@
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
 #include "driver/debugmask.h"
+#include "driver/driverconfiguration.h"
 #include "driver/widgets/additionalfunctions.h"
+#include "driver/widgets/driveroutputview.h"
 #include "driver/widgets/flagsctrl.h"
 #include "driver/widgets/qdebugoutctrl.h"
 #include "driversettings/driverservicesettings.h"
@@ -150,6 +152,27 @@ bool shootDriverSettings(QWidget& window, const QDir& output, bool writable)
     return ok;
 }
 
+// A few camera openings traced by the USB driver, as the recent output shows them.
+bool shootDriverOutput(QWidget& window, const QDir& output)
+{
+    DebugMask::write(DebugMask::Driver::Usb, 0xC0000015u);
+    DriverConfiguration::fetchRegistryValues();
+    for (quint32 deviceId : {0u, 1u, 2u}) {
+        quint32 handle = deviceId | PV_DEVICE_ID_FLAG;
+        if (pv_OpenCamera(&handle, nullptr) == PV_OK)
+            pv_CloseCamera(handle);
+    }
+    DriverOutputView view(DebugMask::Driver::Usb, &window);
+    view.show();
+    if (!QTest::qWaitForWindowExposed(&view))
+        return false;
+    QTest::qWait(500);
+    const bool ok = save(view, output, QStringLiteral("driveroutput"));
+    DebugMask::write(DebugMask::Driver::Usb, 0);
+    DriverConfiguration::fetchRegistryValues();
+    return ok;
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -202,6 +225,7 @@ int main(int argc, char* argv[])
     ok = shootEthDaemonConfig(window, output, false, QStringLiteral("ethdaemonconfig-not-elevated")) && ok;
     ok = shootDriverSettings(window, output, true) && ok;
     ok = shootDriverSettings(window, output, false) && ok;
+    ok = shootDriverOutput(window, output) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

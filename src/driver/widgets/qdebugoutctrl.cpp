@@ -1,5 +1,8 @@
 #include "driver/widgets/qdebugoutctrl.h"
 
+#include "driver/driverconfiguration.h"
+#include "driver/driveroutput.h"
+#include "driver/widgets/driveroutputview.h"
 #include "driver/widgets/settingsfilenotice.h"
 #include "driversettings/debugcategories.h"
 
@@ -8,6 +11,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -26,6 +30,7 @@ QDebugOutCtrl::QDebugOutCtrl(QWidget* parent)
     layout->addWidget(new SettingsFileNotice(this));
     layout->addWidget(buildTypeGroup());
     layout->addWidget(buildFlagGroup());
+    layout->addWidget(buildOutputGroup());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     layout->addWidget(buttons);
@@ -86,6 +91,29 @@ QWidget* QDebugOutCtrl::buildFlagGroup()
     return group;
 }
 
+QWidget* QDebugOutCtrl::buildOutputGroup()
+{
+    auto* group = new QGroupBox(tr("Driver output"), this);
+    auto* layout = new QHBoxLayout(group);
+    m_destination = new QLabel(group);
+    m_destination->setObjectName(QStringLiteral("destination"));
+    m_destination->setWordWrap(true);
+    m_destination->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* show = new QPushButton(tr("Show recent output"), group);
+    show->setObjectName(QStringLiteral("showRecentOutput"));
+    show->setAutoDefault(false);
+    connect(show, &QPushButton::clicked, this, &QDebugOutCtrl::onShowRecentOutput);
+    layout->addWidget(m_destination, 1);
+    layout->addWidget(show);
+    return group;
+}
+
+void QDebugOutCtrl::onShowRecentOutput()
+{
+    DriverOutputView view(driver(), this);
+    view.exec();
+}
+
 DebugMask::Driver QDebugOutCtrl::driver() const
 {
     return m_usb->isChecked() ? DebugMask::Driver::Usb : DebugMask::Driver::Eth;
@@ -122,6 +150,7 @@ void QDebugOutCtrl::onBit()
 
 void QDebugOutCtrl::onGetMask()
 {
+    m_destination->setText(DriverOutput::destination(driver()));
     quint64 mask = 0;
     const Result read = DebugMask::read(driver(), mask);
     m_mask->setToolTip(read.text());
@@ -139,6 +168,11 @@ void QDebugOutCtrl::onSetMask()
                               QMessageBox::Ok);
     } else if (!written.isSuccess()) {
         QMessageBox::critical(this, tr("Error"), written.text(), QMessageBox::Ok);
+    } else {
+        // The drivers take a new mask when they reread their settings.
+        const Result fetched = DriverConfiguration::fetchRegistryValues();
+        if (!fetched.isSuccess())
+            QMessageBox::warning(this, tr("Warning"), fetched.text());
     }
     showMask(mask);
 }

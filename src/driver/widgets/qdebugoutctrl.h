@@ -7,6 +7,7 @@
 #include <array>
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QRadioButton;
 
@@ -29,16 +30,19 @@ public slots:
 
 private slots:
     void onMaskEdited();
+    void onShowRecentOutput();
 
 private:
     QWidget* buildTypeGroup();
     QWidget* buildFlagGroup();
+    QWidget* buildOutputGroup();
     DebugMask::Driver driver() const;
     quint64 maskOfBoxes() const;
     void showMask(quint64 mask);
     void showBoxes(quint64 mask);
 
     QLineEdit* m_mask = nullptr;
+    QLabel* m_destination = nullptr;
     QRadioButton* m_usb = nullptr;
     QRadioButton* m_eth = nullptr;
     std::array<QCheckBox*, 64> m_bits{};

@@ -1,15 +1,19 @@
 #include "driver/widgets/checkboxex.h"
 #include "driver/widgets/flagsctrl.h"
 #include "driver/widgets/qdebugoutctrl.h"
+#include "driver/widgets/driveroutputview.h"
 #include "driversettings/driverservicesettings.h"
 
 #include "messageboxanswerer.h"
+#include "simdriverfixture.h"
 #include "withoutwriterights.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
@@ -30,6 +34,7 @@ private slots:
     void maskWriteIsRefusedWithoutRights_data();
     void maskWriteIsRefusedWithoutRights();
     void typedMaskSetsTheBoxes();
+    void writtenMaskMakesTheDriverTrace();
     void flagsAreInTwoColumnsInTheirOrder();
     void flagClicksStoreOneOrZero();
     void flagsAreDisabledWithoutRights();
@@ -75,6 +80,8 @@ void TestDriverSettingsDialogs::init()
     m_root = std::make_unique<QTemporaryDir>();
     QVERIFY(m_root->isValid());
     qputenv("CIRRO_CONFIG_ROOT", m_root->path().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", m_root->path().toUtf8());
+    QVERIFY(SimDriverFixture::reset());
 }
 
 void TestDriverSettingsDialogs::cleanup()
@@ -161,6 +168,32 @@ void TestDriverSettingsDialogs::typedMaskSetsTheBoxes()
     QTest::keyClick(mask, Qt::Key_Return);
     QCOMPARE(checkedBits(dialog), QStringLiteral("0 15"));
     QCOMPARE(mask->text(), QStringLiteral("0x0000000000008001"));
+}
+
+void TestDriverSettingsDialogs::writtenMaskMakesTheDriverTrace()
+{
+    QDebugOutCtrl dialog(nullptr);
+    QVERIFY(child<QLabel>(dialog, "destination")->text().contains("cirro_usb.trace"));
+    child<QCheckBox>(dialog, "bit4")->click();
+    child<QPushButton>(dialog, "write")->click();
+    quint32 handle = 0 | PV_DEVICE_ID_FLAG;
+    QCOMPARE(pv_OpenCamera(&handle, nullptr), PV_OK);
+    QCOMPARE(pv_CloseCamera(handle), PV_OK);
+
+    QString shown;
+    QTimer reader;
+    connect(&reader, &QTimer::timeout, [&] {
+        auto* view = dialog.findChild<DriverOutputView*>();
+        if (!view || !view->isVisible())
+            return;
+        shown = child<QPlainTextEdit>(*view, "lines")->toPlainText();
+        if (!shown.isEmpty())
+            view->reject();
+    });
+    reader.start(10);
+    child<QPushButton>(dialog, "showRecentOutput")->click();
+    QVERIFY2(shown.contains("[Device start/stop]"), qPrintable(shown));
+    QVERIFY(!shown.contains("[All IOCTL calls]"));
 }
 
 void TestDriverSettingsDialogs::flagsAreInTwoColumnsInTheirOrder()
