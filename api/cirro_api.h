@@ -448,10 +448,13 @@ typedef struct pv_IpBlock {
 #define PV_ETHSVC_SET_READONLY_MULTICAST 0x2007u
 #define PV_ETHSVC_GET_READONLY_MULTICAST 0x2008u
 
-/* Request of PV_ETHSVC_ADD_READONLY / PV_ETHSVC_REMOVE_READONLY. */
+/* Request of PV_ETHSVC_ADD_READONLY / PV_ETHSVC_REMOVE_READONLY. A read-only
+ * device receives the multicast group on the local adapter of that address;
+ * the two name the camera that sends the stream. Removal finds the device by
+ * its group and camera ID and does not use the adapter's address. */
 typedef struct pv_ReadOnlyRequest {
     uint8_t multicastIp[4]; /* network byte order */
-    uint8_t sourceIp[4];    /* network byte order */
+    uint8_t adapterIp[4];   /* network byte order */
     uint32_t cameraId;
     uint32_t mode;
 } pv_ReadOnlyRequest;

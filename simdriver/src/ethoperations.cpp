@@ -144,27 +144,17 @@ Result ipCommand(Fleet& fleet, IpTarget& target, std::uint32_t command, void* bl
     }
 }
 
-Result queueReadOnly(Fleet& fleet, bool add, const void* buffer)
+// The GigE camera whose stream a read-only device receives: the one on the
+// adapter with the request's address that sends to the request's group.
+const SimCamera* sourceCamera(const Fleet& fleet, const ReadOnlyRequest& request)
 {
-    pv_ReadOnlyRequest request;
-    std::memcpy(&request, buffer, sizeof request);
-    ReadOnlyRequest queued{add, NetAddress::fromNetworkBytes(request.multicastIp),
-                           NetAddress::fromNetworkBytes(request.sourceIp), request.cameraId, request.mode};
-    if (add) {
-        if (!fleet.settings.readOnlyMulticast)
-            return failure(PV_ERR_NOT_SUPPORTED, "read-only multicast is switched off in the driver");
-        if (queued.cameraId < 1 || queued.cameraId > 254)
-            return failure(PV_ERR_INVALID_PARAMETER, "camera ID " + std::to_string(queued.cameraId)
-                                                         + " is outside 1 to 254");
-        if (queued.mode < 1 || queued.mode > 4)
-            return failure(PV_ERR_INVALID_PARAMETER, "error handling mode " + std::to_string(queued.mode)
-                                                         + " is outside 1 to 4");
-        if (!isMulticast(queued.multicastIp))
-            return failure(PV_ERR_INVALID_PARAMETER, NetAddress::formatIp(queued.multicastIp)
-                                                         + " is not a multicast address");
+    for (const SimCamera* camera : fleet.visibleCameras()) {
+        const SimAdapter* adapter = fleet.adapter(camera->adapterName);
+        if (camera->kind == CameraKind::Eth && camera->multicastIp == request.multicastIp && adapter
+            && adapter->ip == request.adapterIp)
+            return camera;
     }
-    fleet.pendingReadOnly.push_back(queued);
-    return success();
+    return nullptr;
 }
 
 SimCamera* readOnlyDevice(Fleet& fleet, const ReadOnlyRequest& request)
@@ -177,24 +167,62 @@ SimCamera* readOnlyDevice(Fleet& fleet, const ReadOnlyRequest& request)
     return nullptr;
 }
 
-// A read-only device looks like the camera whose stream it receives.
-SimCamera readOnlyCopy(Fleet& fleet, const ReadOnlyRequest& request)
+Result checkAddition(Fleet& fleet, const ReadOnlyRequest& request)
 {
-    SimCamera device(CameraKind::ReadOnly);
-    for (const SimCamera* camera : fleet.visibleCameras()) {
-        if (camera->kind == CameraKind::Eth && camera->multicastIp == request.multicastIp) {
-            device = *camera;
-            device.kind = CameraKind::ReadOnly;
-            device.openHandle = 0;
-            break;
-        }
+    const std::string group = NetAddress::formatIp(request.multicastIp);
+    if (!isMulticast(request.multicastIp))
+        return failure(PV_ERR_INVALID_PARAMETER, group + " is not a multicast address");
+    if (!sourceCamera(fleet, request))
+        return failure(PV_ERR_UNKNOWN_DEVICE, "no GigE camera on the adapter " + NetAddress::formatIp(request.adapterIp)
+                                                  + " sends to " + group);
+    if (readOnlyDevice(fleet, request))
+        return failure(PV_ERR_INVALID_PARAMETER, "a read-only device of camera ID " + std::to_string(request.cameraId)
+                                                     + " receives " + group + " already");
+    return success();
+}
+
+Result queueReadOnly(Fleet& fleet, bool add, const void* buffer)
+{
+    pv_ReadOnlyRequest request;
+    std::memcpy(&request, buffer, sizeof request);
+    ReadOnlyRequest queued{add, NetAddress::fromNetworkBytes(request.multicastIp),
+                           NetAddress::fromNetworkBytes(request.adapterIp), request.cameraId, request.mode};
+    if (add) {
+        if (!fleet.settings.readOnlyMulticast)
+            return failure(PV_ERR_NOT_SUPPORTED, "read-only multicast is switched off in the driver");
+        if (queued.cameraId < 1 || queued.cameraId > 254)
+            return failure(PV_ERR_INVALID_PARAMETER, "camera ID " + std::to_string(queued.cameraId)
+                                                         + " is outside 1 to 254");
+        if (queued.mode < 1 || queued.mode > 4)
+            return failure(PV_ERR_INVALID_PARAMETER, "error handling mode " + std::to_string(queued.mode)
+                                                         + " is outside 1 to 4");
+        if (Result r = checkAddition(fleet, queued); !r.ok())
+            return r;
     }
+    fleet.pendingReadOnly.push_back(queued);
+    return success();
+}
+
+// A read-only device looks like the camera whose stream it receives.
+Result addReadOnlyDevice(Fleet& fleet, const ReadOnlyRequest& request)
+{
+    // The fleet may have changed since the request was queued.
+    if (Result r = checkAddition(fleet, request); !r.ok())
+        return r;
+    const SimCamera& source = *sourceCamera(fleet, request);
+    // The source's identity and device data, none of what the driver does with it.
+    SimCamera device = source;
+    device.kind = CameraKind::ReadOnly;
+    device.openedElsewhere = device.heldByOtherHost = false;
+    device.openHandle = 0;
+    device.uploading = device.rebooting = device.ipChanging = false;
+    device.identifyCount = 0;
+    device.pluggedAt = std::chrono::steady_clock::now();
     device.deviceId = SimCamera::unassigned;
     device.cameraId = request.cameraId;
-    device.multicastIp = request.multicastIp;
-    device.sourceIp = request.sourceIp;
+    device.sourceIp = source.currentIp;
     device.readOnlyMode = request.mode;
-    return device;
+    return fleet.plug(device);
 }
 
 Result applyReadOnlyRequests(Fleet& fleet)
@@ -203,7 +231,7 @@ Result applyReadOnlyRequests(Fleet& fleet)
     for (const ReadOnlyRequest& request : fleet.pendingReadOnly) {
         Result r;
         if (request.add) {
-            r = fleet.plug(readOnlyCopy(fleet, request));
+            r = addReadOnlyDevice(fleet, request);
         } else if (SimCamera* device = readOnlyDevice(fleet, request)) {
             r = fleet.unplug(device->deviceId);
         } else {

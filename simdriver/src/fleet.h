@@ -16,7 +16,7 @@ struct ReadOnlyRequest
 {
     bool add = true;
     std::uint32_t multicastIp = 0;
-    std::uint32_t sourceIp = 0;
+    std::uint32_t adapterIp = 0;
     std::uint32_t cameraId = 0;
     std::uint32_t mode = 1;
 };

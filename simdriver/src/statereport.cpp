@@ -41,6 +41,8 @@ QJsonObject cameraReport(const SimCamera& camera, bool visible)
         {"dhcp", camera.dhcp},
         {"multicastIp", ip(camera.multicastIp)},
         {"multicastEnabled", camera.multicastEnabled},
+        {"sourceIp", ip(camera.sourceIp)},
+        {"readOnlyMode", qint64(camera.readOnlyMode)},
         {"starterFirmware", version(camera.starterFirmware)},
         {"deviceStatus", qint64(camera.deviceStatus)},
         {"deviceControl", qint64(camera.deviceControl)},

@@ -42,7 +42,7 @@ Result removeReadOnlyDevice(const Camera& camera)
 {
     pv_ReadOnlyRequest request{};
     writeNetworkOrder(camera.eth().currentIp, request.multicastIp);
-    writeNetworkOrder(camera.eth().persistentIp, request.sourceIp);
+    writeNetworkOrder(camera.eth().adapterIp, request.adapterIp);
     request.cameraId = camera.cameraId();
     request.mode = 1;
     std::int32_t result = pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request);

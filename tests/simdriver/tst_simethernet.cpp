@@ -146,6 +146,8 @@ private slots:
     void multicastAddress();
     void multicastEnable();
     void readOnlyDevices();
+    void readOnlyRequestsThatNameNoSource_data();
+    void readOnlyRequestsThatNameNoSource();
     void readOnlyMulticastSwitch();
     void adapterJumboPacketsAndFilter();
     void adapterFramesForJumboPackets_data();
@@ -414,7 +416,7 @@ void TestSimEthernet::readOnlyDevices()
     const pv_DeviceInformation sourceInfo = deviceInfo(gigeCamera);
     pv_ReadOnlyRequest request{};
     std::memcpy(request.multicastIp, &sourceInfo.u.eth.multicastIp, 4); // first octet lowest = network order
-    std::memcpy(request.sourceIp, &sourceInfo.u.eth.currentIp, 4);
+    std::memcpy(request.adapterIp, &sourceInfo.u.eth.adapterIp, 4);
     request.cameraId = 42;
     request.mode = 2;
 
@@ -439,6 +441,11 @@ void TestSimEthernet::readOnlyDevices()
     QCOMPARE(device->cameraId, 42u);
     QCOMPARE(QByteArray(device->model), QByteArray(source.model));
     QCOMPARE(deviceInfo(id).u.eth.multicastIp, sourceInfo.u.eth.multicastIp);
+    const QJsonObject receiver = cameraState(id);
+    QCOMPARE(receiver.value("sourceIp").toString(), QStringLiteral("192.168.50.10"));
+    QCOMPARE(receiver.value("serial").toString(), cameraState(gigeCamera).value("serial").toString());
+    QCOMPARE(receiver.value("readOnlyMode").toInt(), 2);
+    QVERIFY(!receiver.value("open").toBool());
 
     QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_REMOVE_READONLY, &request, sizeof request), PV_OK);
     QVERIFY(listedIds().count(id));
@@ -449,9 +456,43 @@ void TestSimEthernet::readOnlyDevices()
     QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_ERR_UNKNOWN_DEVICE);
 }
 
+void TestSimEthernet::readOnlyRequestsThatNameNoSource_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("adapter");
+    QTest::addColumn<std::uint32_t>("cameraId");
+    QTest::addColumn<std::int32_t>("code");
+    // Camera 1000 sends to 239.1.1.10 on simnet0 (192.168.50.1); the fleet's
+    // read-only device 1500 receives it as camera ID 20.
+    QTest::newRow("camera address instead of the adapter's")
+        << "239.1.1.10" << "192.168.50.10" << 42u << std::int32_t(PV_ERR_UNKNOWN_DEVICE);
+    QTest::newRow("group nobody sends to") << "239.1.1.11" << "192.168.50.1" << 42u << std::int32_t(PV_ERR_UNKNOWN_DEVICE);
+    QTest::newRow("group on another adapter") << "239.1.1.10" << "192.168.60.1" << 42u << std::int32_t(PV_ERR_UNKNOWN_DEVICE);
+    QTest::newRow("not a multicast group") << "192.168.50.10" << "192.168.50.1" << 42u << std::int32_t(PV_ERR_INVALID_PARAMETER);
+    QTest::newRow("that device exists") << "239.1.1.10" << "192.168.50.1" << 20u << std::int32_t(PV_ERR_INVALID_PARAMETER);
+}
+
+void TestSimEthernet::readOnlyRequestsThatNameNoSource()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, adapter);
+    QFETCH(std::uint32_t, cameraId);
+    pv_ReadOnlyRequest request{{}, {}, cameraId, 1};
+    for (int i = 0; i < 4; ++i) {
+        request.multicastIp[i] = std::uint8_t(group.section('.', i, i).toUInt());
+        request.adapterIp[i] = std::uint8_t(adapter.section('.', i, i).toUInt());
+    }
+    const std::set<std::uint32_t> before = listedIds();
+    QTEST(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_ADD_READONLY, &request, sizeof request), "code");
+    QVERIFY(!lastErrorText().isEmpty());
+    QCOMPARE(state().value("pendingReadOnly").toInt(), 0);
+    QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_APPLY, nullptr, 0), PV_OK);
+    QCOMPARE(listedIds(), before);
+}
+
 void TestSimEthernet::readOnlyMulticastSwitch()
 {
-    pv_ReadOnlyRequest request{{239, 1, 1, 10}, {192, 168, 50, 10}, 43, 1};
+    pv_ReadOnlyRequest request{{239, 1, 1, 10}, {192, 168, 50, 1}, 43, 1};
     std::uint32_t flag = 0;
     QCOMPARE(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_SET_READONLY_MULTICAST, &flag, sizeof flag), PV_OK);
     flag = 7;

@@ -7,6 +7,7 @@
 #include "app/widgets/startup.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
+#include "dialogs/widgets/multicastdialog.h"
 #include "driver/debugmask.h"
 #include "driver/driverconfiguration.h"
 #include "driver/widgets/additionalfunctions.h"
@@ -28,6 +29,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeWidget>
@@ -173,6 +175,30 @@ bool shootDriverOutput(QWidget& window, const QDir& output)
     return ok;
 }
 
+bool shootMulticastDialog(QCirroCameramanager& window, const QDir& output)
+{
+    window.cameraList()->selectDevice(1000);
+    MulticastDialog dialog(*window.cameraList()->selectedCamera(), &window);
+    dialog.setAttribute(Qt::WA_DeleteOnClose, false);
+    dialog.show();
+    return QTest::qWaitForWindowExposed(&dialog) && save(dialog, output, QStringLiteral("multicastdialog"));
+}
+
+// The upload's progress over the window, then the window once it is done.
+bool shootFirmwareUpload(QCirroCameramanager& window, const QDir& output)
+{
+    pvsim_SetTimeScale(0.2); // 25 s become 5 s
+    window.cameraList()->selectDevice(1002);
+    window.findChild<QPushButton*>(QStringLiteral("uploadStarterFirmware"))->click();
+    QTest::qWait(2500);
+    bool ok = saveScreen(window, output, QStringLiteral("firmware-upload"));
+    ok = QTest::qWaitFor([&window] { return !window.findChild<QProgressDialog*>(); }, 10000) && ok;
+    ok = save(window, output, QStringLiteral("main-window-after-upload")) && ok;
+    pvsim_SetTimeScale(1.0);
+    pvsim_LoadScenario(nullptr);
+    return ok;
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -226,6 +252,8 @@ int main(int argc, char* argv[])
     ok = shootDriverSettings(window, output, true) && ok;
     ok = shootDriverSettings(window, output, false) && ok;
     ok = shootDriverOutput(window, output) && ok;
+    ok = shootMulticastDialog(window, output) && ok;
+    ok = shootFirmwareUpload(window, output) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

@@ -15,6 +15,9 @@
 #include "camera/widgets/cameratableview.h"
 #include "details/widgets/deviceinfoview.h"
 #include "driver/widgets/additionalfunctions.h"
+#include "dialogs/firmwareupload.h"
+#include "dialogs/widgets/firmwareuploadprogress.h"
+#include "dialogs/widgets/multicastdialog.h"
 #include "network/adapterdiagnosis.h"
 #include "network/autoconfiguration.h"
 #include "network/ethcamerasettings.h"
@@ -97,6 +100,7 @@ QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* paren
 QCirroCameramanager::~QCirroCameramanager()
 {
     saveSettings();
+    m_pendingUploads.cancelAndWait();
     m_autoConfigWatcher.waitForFinished();
 }
 
@@ -200,6 +204,9 @@ void QCirroCameramanager::registerCommands()
     m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
     m_commands->setHandler(Command::EthService, [this] { onEthDaemonConfig(); });
     m_commands->setHandler(Command::AdditionalFunctions, [this] { OnAdditionalFunctionsDlg(); });
+    m_commands->setHandler(Command::UploadFirmware, [this] { onUploadFirmware(); });
+    m_commands->handleRequest(Command::AddReadOnlyDevice, m_cameraList, &CameraList::openMulticastSettings, this,
+                              &QCirroCameramanager::onMulticastDialog);
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -447,6 +454,58 @@ void QCirroCameramanager::OnAdditionalFunctionsDlg()
     AdditionalFunctions dialog(this);
     dialog.exec();
     updateDetails(false); // boot boost and multicast settings show in a camera's state
+}
+
+void QCirroCameramanager::onUploadFirmware()
+{
+    const Camera* camera = currentCamera();
+    if (!camera || !FirmwareUpload::accepts(camera->typeCode()))
+        return;
+    auto* watcher = new QFutureWatcher<int>(this);
+    connect(watcher, &QFutureWatcher<int>::resultReadyAt, this, &QCirroCameramanager::onFirmwareUploadFinished);
+    connect(watcher, &QFutureWatcher<int>::finished, watcher, &QObject::deleteLater);
+    Printer(tr("Firmware upload in progress ..."), Qt::black, true);
+    m_messagesEnabled = false; // nothing else overwrites the line during the upload
+    m_uploadProgress = new FirmwareUploadProgress(FirmwareUpload::expectedSeconds(camera->typeCode()), this);
+    m_uploadProgress->show();
+    const QFuture<int> upload = FirmwareUpload::start(camera->deviceId());
+    watcher->setFuture(upload);
+    m_pendingUploads.append(upload);
+}
+
+void QCirroCameramanager::onFirmwareUploadFinished(int index)
+{
+    m_messagesEnabled = true;
+    const PendingUploads::Outcome outcome = m_pendingUploads.collect(index);
+    if (outcome.lastFinished) {
+        m_pendingUploads.clear();
+        closeUploadProgress();
+    }
+    // The outcome is written after the details update so that the status
+    // assessment does not replace it at once.
+    updateDetails(false);
+    if (outcome.result != 0) {
+        QMessageBox::critical(this, tr("Error"), tr("Firmware upload error! Return code: %1").arg(outcome.result),
+                              QMessageBox::Ok);
+        Printer(tr("Firmware upload error! %1").arg(outcome.result), Qt::red, false);
+    } else if (outcome.lastFinished) {
+        Printer(tr("Firmware upload successful!"), Qt::black, false);
+    }
+}
+
+void QCirroCameramanager::closeUploadProgress()
+{
+    if (!m_uploadProgress)
+        return;
+    m_uploadProgress->setValue(m_uploadProgress->maximum());
+    m_uploadProgress->deleteLater(); // its timer goes with it
+    m_uploadProgress = nullptr;
+}
+
+void QCirroCameramanager::onMulticastDialog(const Camera& camera)
+{
+    (new MulticastDialog(camera, this))->exec(); // deletes itself when it closes
+    updateDetails(false);
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

@@ -2,6 +2,7 @@
 
 #include "app/languageloader.h"
 #include "camera/camera.h"
+#include "dialogs/pendinguploads.h"
 #include "network/ethcamerasettings.h"
 #include "services/corestates.h"
 #include "services/servicemanager.h"
@@ -74,6 +75,9 @@ public slots:
     void onAutoConfigFinished();
     void onEthDaemonConfig();
     void OnAdditionalFunctionsDlg();
+    void onUploadFirmware();
+    void onFirmwareUploadFinished(int index);
+    void onMulticastDialog(const Camera& camera);
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();
@@ -95,6 +99,7 @@ private:
     void saveSettings() const;
     void updateDetails(bool force);
     void deleteReadOnlyDevice(const Camera& camera);
+    void closeUploadProgress();
     const Camera* currentCamera() const;
 
     CameraList* m_cameraList = nullptr;
@@ -116,6 +121,8 @@ private:
     QProgressDialog* m_autoConfigProgress = nullptr;
     IpChangeFollowUp* m_ipChangeFollowUp = nullptr;
     EthDaemonConfig* m_ethDaemonDialog = nullptr; // while it is open
+    PendingUploads m_pendingUploads;
+    QProgressDialog* m_uploadProgress = nullptr; // while an upload runs
     // The camera of the running automatic configuration, and its settings before.
     camera::optional<Camera> m_autoConfigCamera;
     EthCameraSettings m_autoConfigBefore;

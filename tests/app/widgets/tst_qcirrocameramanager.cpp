@@ -2,9 +2,11 @@
 #include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
+#include "dialogs/widgets/multicastdialog.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/qipedit.h"
 
+#include "fleetcamera.h"
 #include "messageboxanswerer.h"
 #include "simdriverfixture.h"
 
@@ -16,9 +18,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -48,6 +53,7 @@ private:
 };
 
 const QString shippedTranslations = QStringLiteral(CIRRO_TRANSLATION_DIR);
+constexpr quint32 pendingUpload = 1002; // GigE, starter 3.1.4 where the driver carries 3.2.1
 
 } // namespace
 
@@ -71,7 +77,11 @@ private slots:
     void selectionFillsTheStatusLines_data();
     void selectionFillsTheStatusLines();
     void commandsWithoutTheirFeatureStayDisabled();
+    void firmwareUploadGivesTheCameraTheDriversStarter();
+    void failingUploadIsReportedTwice();
+    void closingTheWindowWaitsForTheUpload();
     void deletingAReadOnlyDeviceRemovesIt();
+    void readOnlyDeviceAddedFromTheListCanBeDeletedAgain();
     void automaticConfigurationRepairsACamera();
     void manualConfigurationWithASuggestedAddress();
     void adapterAdviceFollowsTheSelection();
@@ -80,6 +90,9 @@ private slots:
 private:
     std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations);
     void select(QCirroCameramanager& window, quint32 deviceId);
+    // The enabled entry of that text in the selected camera's context menu.
+    static QAction* menuEntry(QCirroCameramanager& window, const QString& text);
+    static const Camera* listedReadOnlyDevice(QCirroCameramanager& window, quint32 cameraId);
     template <typename T>
     static T* child(QCirroCameramanager& window, const char* name)
     {
@@ -122,6 +135,27 @@ std::unique_ptr<QCirroCameramanager> TestMainWindow::makeWindow(const QString& t
 void TestMainWindow::select(QCirroCameramanager& window, quint32 deviceId)
 {
     QVERIFY2(window.cameraList()->selectDevice(deviceId), "camera not in the list");
+}
+
+QAction* TestMainWindow::menuEntry(QCirroCameramanager& window, const QString& text)
+{
+    // The camera list's view owns the menu.
+    const QMenu* menu = window.cameraList()->createContextMenu().release();
+    for (QAction* action : menu->actions()) {
+        if (action->text() == text && action->isEnabled())
+            return action;
+    }
+    qWarning() << "no enabled menu entry" << text;
+    return nullptr;
+}
+
+const Camera* TestMainWindow::listedReadOnlyDevice(QCirroCameramanager& window, quint32 cameraId)
+{
+    for (const auto& camera : window.cameraList()->model()->cameraList()) {
+        if (camera->kind() == Camera::Kind::ReadOnly && camera->cameraId() == cameraId)
+            return &*camera;
+    }
+    return nullptr;
 }
 
 void TestMainWindow::oneStatusSignalPerServiceChange()
@@ -305,28 +339,119 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile",
-                             "uploadStarterFirmware"})
+    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "additionalFunctions")->isEnabled());
     // Built, and allowed for a free GigE camera but not for a USB camera.
-    QVERIFY(child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
-    QVERIFY(child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    const char* const gigeOnly[] = {"manualEthConfiguration", "automaticEthConfiguration", "uploadStarterFirmware"};
+    for (const char* name : gigeOnly)
+        QVERIFY2(child<QPushButton>(*window, name)->isEnabled(), name);
     select(*window, 0);
-    QVERIFY(!child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
-    QVERIFY(!child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    for (const char* name : gigeOnly)
+        QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
+}
+
+void TestMainWindow::firmwareUploadGivesTheCameraTheDriversStarter()
+{
+    const auto window = makeWindow();
+    window->show();
+    select(*window, pendingUpload);
+    auto* status = child<QLabel>(*window, "statusText");
+    QVERIFY2(status->text().startsWith("<font color='#ff0000'>Status of device 1002: The starter firmware of the "
+                                       "camera is incompatible"),
+             qPrintable(status->text()));
+
+    child<QPushButton>(*window, "uploadStarterFirmware")->click();
+    QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Firmware upload in progress ...</font>"));
+    QVERIFY(child<QLabel>(*window, "busyIndicator")->isVisible());
+    QPointer<QProgressDialog> progress = window->findChild<QProgressDialog*>("firmwareUploadProgress");
+    QVERIFY(progress);
+    QVERIFY(progress->isVisible());
+    QVERIFY(!window->messagesEnabled());
+
+    QTRY_VERIFY(progress.isNull());
+    QVERIFY(window->messagesEnabled());
+    const pv_DeviceInformation after = deviceInfo(pendingUpload);
+    QCOMPARE(after.starterFirmware, after.driverFirmwareImage);
+    QVERIFY(!(after.deviceControlStatus & PV_CONTROL_OPENED));
+    // The driver's device event brings the new record; red turns black.
+    QTRY_VERIFY(window->cameraList()->selectedCamera()->starterFirmware()
+                == window->cameraList()->selectedCamera()->driverFirmwareImage());
+    window->UpdateControls();
+    QCOMPARE(status->text(), QStringLiteral("<font color='#000000'>Status of device 1002: The camera is configured "
+                                            "correctly and can be opened.</font>"));
+    QVERIFY(!child<QLabel>(*window, "busyIndicator")->isVisible());
+}
+
+void TestMainWindow::failingUploadIsReportedTwice()
+{
+    const auto window = makeWindow();
+    window->show();
+    select(*window, pendingUpload);
+    MessageBoxAnswerer answerer(QMessageBox::Ok);
+    QCOMPARE(pvsim_FailOperation("pv_OpenCamera", PV_ERR_DEVICE_UNREACHABLE, 1), PV_OK);
+    child<QPushButton>(*window, "uploadStarterFirmware")->click();
+    QTRY_COMPARE(answerer.seen, QStringList{"Error: Firmware upload error! Return code: 110"});
+    auto* status = child<QLabel>(*window, "statusText");
+    QTRY_COMPARE(status->text(), QStringLiteral("<font color='#ff0000'>Firmware upload error! 110</font>"));
+    QTRY_VERIFY(!window->findChild<QProgressDialog*>("firmwareUploadProgress"));
+    const pv_DeviceInformation after = deviceInfo(pendingUpload);
+    QVERIFY(after.starterFirmware != after.driverFirmwareImage);
+}
+
+void TestMainWindow::closingTheWindowWaitsForTheUpload()
+{
+    QCOMPARE(pvsim_SetTimeScale(0.04), PV_OK); // 25 s become 1 s
+    auto window = makeWindow();
+    select(*window, pendingUpload);
+    child<QPushButton>(*window, "uploadStarterFirmware")->click();
+    QTRY_VERIFY(deviceInfo(pendingUpload).deviceStatus & PV_STATUS_RECEIVING_STARTER_FW);
+    window.reset();
+    const pv_DeviceInformation after = deviceInfo(pendingUpload);
+    QVERIFY(!(after.deviceStatus & PV_STATUS_RECEIVING_STARTER_FW));
+    QVERIFY(!(after.deviceControlStatus & PV_CONTROL_OPENED));
+    QCOMPARE(after.starterFirmware, after.driverFirmwareImage);
+    // What is still queued for the window goes nowhere.
+    QCoreApplication::processEvents();
+}
+
+void TestMainWindow::readOnlyDeviceAddedFromTheListCanBeDeletedAgain()
+{
+    const auto window = makeWindow();
+    select(*window, 1000);
+    // The dialog runs modally; the user's part is played once it is shown.
+    bool played = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = window->findChild<MulticastDialog*>();
+        QVERIFY(dialog);
+        dialog->findChild<QSpinBox*>("cameraId")->setValue(42);
+        dialog->findChild<QPushButton*>("addReadOnlyDevice")->click();
+        played = true;
+    });
+    menuEntry(*window, "&Add Readonly Device")->trigger();
+    QVERIFY(played);
+
+    // The device arrives with the driver's event and looks like its source.
+    const Camera* device = nullptr;
+    QTRY_VERIFY((device = listedReadOnlyDevice(*window, 42)) != nullptr);
+    QCOMPARE(device->kind(), Camera::Kind::ReadOnly);
+    QCOMPARE(device->serialNumber(), fleetCamera(1000).serialNumber());
+    QCOMPARE(device->multicastIp(), QStringLiteral("239.1.1.10"));
+    const quint32 deviceId = device->deviceId();
+
+    select(*window, deviceId);
+    menuEntry(*window, "&Delete")->trigger();
+    QVERIFY(cameraState(deviceId).isEmpty());
+    QTRY_VERIFY(!listedReadOnlyDevice(*window, 42));
 }
 
 void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()
 {
     const auto window = makeWindow();
     select(*window, 1500);
-    const std::unique_ptr<QMenu> menu = window->cameraList()->createContextMenu();
-    QAction* remove = nullptr;
-    for (QAction* action : menu->actions())
-        remove = action->text() == "&Delete" ? action : remove;
+    QAction* remove = menuEntry(*window, "&Delete");
     QVERIFY(remove);
     remove->trigger();
     QVERIFY(cameraState(1500).isEmpty());

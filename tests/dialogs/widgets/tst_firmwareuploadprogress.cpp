@@ -1,0 +1,43 @@
+#include "dialogs/widgets/firmwareuploadprogress.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+class TestFirmwareUploadProgress : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void waitsOneStepShortOfTheEnd();
+    void labelNamesTheExpectedDuration();
+};
+
+void TestFirmwareUploadProgress::waitsOneStepShortOfTheEnd()
+{
+    QWidget window;
+    window.show();
+    FirmwareUploadProgress progress(4, &window, std::chrono::milliseconds(5));
+    progress.show();
+    QCOMPARE(progress.windowModality(), Qt::WindowModal);
+    QVERIFY(progress.findChildren<QPushButton*>().isEmpty()); // nothing to cancel
+    QVERIFY(!(progress.windowFlags() & Qt::WindowContextHelpButtonHint));
+    QCOMPARE(progress.maximum(), 4);
+    QTRY_COMPARE(progress.value(), 3);
+    // Many more steps later it still waits for the result.
+    QTest::qWait(100);
+    QCOMPARE(progress.value(), 3);
+    QVERIFY(progress.isVisible());
+}
+
+void TestFirmwareUploadProgress::labelNamesTheExpectedDuration()
+{
+    FirmwareUploadProgress progress(35, nullptr);
+    QCOMPARE(progress.findChild<QLabel*>()->text(),
+             QStringLiteral("Uploading firmware...\n\nPlease don't disconnect the device until this operation is "
+                            "completed.\nThis may take up to 35 seconds."));
+    QCOMPARE(progress.value(), 0);
+}
+
+QTEST_MAIN(TestFirmwareUploadProgress)
+#include "tst_firmwareuploadprogress.moc"
