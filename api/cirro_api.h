@@ -104,6 +104,16 @@ typedef struct pv_CameraListEntry {
 
 #define PV_DEVINFO_READ 0x2010001u
 #define PV_DEVINFO_READ_EXTENDED 0x2010002u
+/* How far a starter firmware upload into the device has come, addressed by
+ * device ID while another caller's open performs the upload
+ * (pv_UploadProgress). Drivers that don't report it answer
+ * PV_ERR_UNKNOWN_COMMAND. */
+#define PV_DEVINFO_UPLOAD_PROGRESS 0x2010010u
+
+typedef struct pv_UploadProgress {
+    uint32_t uploading; /* 1 while an upload into the device runs */
+    uint32_t permille;  /* 0-1000 of the upload done; 0 when none runs */
+} pv_UploadProgress;
 
 /* Version words: major in the top byte, minor in the next, build in the low
  * 16 bits. */

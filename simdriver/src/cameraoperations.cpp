@@ -49,7 +49,7 @@ bool canReceiveFirmware(const SimCamera& camera)
     return !camera.isEthernet() || (camera.currentIp != 0 && (camera.deviceControl & PV_CONTROL_ADAPTER_OK));
 }
 
-Result startUpload(SimCamera& camera, const DriverSettings& settings)
+Result startUpload(SimCamera& camera, const DriverSettings& settings, std::chrono::milliseconds duration)
 {
     if (settings.starterImage == 0)
         return failure(PV_ERR_FIRMWARE_UNAVAILABLE, "the driver carries no starter firmware image");
@@ -57,6 +57,8 @@ Result startUpload(SimCamera& camera, const DriverSettings& settings)
         return failure(PV_ERR_DEVICE_UNREACHABLE,
                        "camera " + std::to_string(camera.deviceId) + " can't be reached for the upload");
     camera.uploading = true;
+    camera.uploadStarted = std::chrono::steady_clock::now();
+    camera.uploadDuration = duration;
     return success();
 }
 
@@ -90,7 +92,7 @@ Result openDevice(SimDriver& driver, std::uint32_t deviceId, bool uploadRequeste
                                 && fleet.settings.registryFlag("cirro_eth", "AllowAutoStarterFwUpload");
         if (uploadRequested || autoUpload) {
             uploading = true;
-            return startUpload(*camera, fleet.settings);
+            return startUpload(*camera, fleet.settings, driver.scaled(firmwareUploadDuration(typeCode)));
         }
         if (camera->isEthernet() && !(camera->deviceControl & PV_CONTROL_AVAILABLE))
             return failure(PV_ERR_DEVICE_UNREACHABLE, "camera " + std::to_string(deviceId) + " can't be reached");
@@ -114,6 +116,27 @@ Result openDevice(SimDriver& driver, std::uint32_t deviceId, bool uploadRequeste
     if (result.ok())
         handle = opened;
     return result;
+}
+
+Result uploadProgress(SimDriver& driver, std::uint32_t handle, void* block, std::uint32_t size)
+{
+    if (Result r = checkBuffer(block, size, sizeof(pv_UploadProgress), "pv_DeviceInfo"); !r.ok())
+        return r;
+    return driver.read([&](Fleet& fleet) {
+        SimCamera* camera = nullptr;
+        if (Result r = fleet.resolve(handle, camera); !r.ok())
+            return r;
+        pv_UploadProgress progress{};
+        if (camera->uploading) {
+            using namespace std::chrono;
+            const auto elapsed = duration_cast<milliseconds>(steady_clock::now() - camera->uploadStarted);
+            const auto total = std::max<std::int64_t>(camera->uploadDuration.count(), 1);
+            progress.uploading = 1;
+            progress.permille = std::uint32_t(std::min<std::int64_t>(elapsed.count() * 1000 / total, 999));
+        }
+        std::memcpy(block, &progress, sizeof progress);
+        return success();
+    });
 }
 
 } // namespace
@@ -222,6 +245,8 @@ Result getRevisionInfo(SimDriver& driver, std::uint32_t handle, pv_RevisionInfo*
 
 Result deviceInfo(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* block, std::uint32_t size)
 {
+    if (command == PV_DEVINFO_UPLOAD_PROGRESS)
+        return uploadProgress(driver, handle, block, size);
     if (command != PV_DEVINFO_READ && command != PV_DEVINFO_READ_EXTENDED)
         return failure(PV_ERR_UNKNOWN_COMMAND, "pv_DeviceInfo: unknown command " + std::to_string(command));
     const bool extended = command == PV_DEVINFO_READ_EXTENDED;

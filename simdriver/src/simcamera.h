@@ -95,6 +95,8 @@ struct SimCamera
     // Driver state
     std::uint32_t openHandle = 0;
     bool uploading = false;
+    std::chrono::steady_clock::time_point uploadStarted;
+    std::chrono::milliseconds uploadDuration{0};
     bool rebooting = false;
     // Between a written IP setting and the address it leads to; ipChange names
     // the latest change, so that only its end finishes the transition.

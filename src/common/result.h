@@ -51,6 +51,8 @@ enum Code : int {
     // A configuration file that is not a regular file, too large, or does
     // not parse.
     UnreadableFile = 14,
+    // What a device reports after a change differs from what was written.
+    VerificationFailed = 15,
     // Nobody answered an ARP probe in time. The value is what Windows' SendARP
     // reports for the same case, and what the free-address search takes as
     // "free".

@@ -1,7 +1,12 @@
 #pragma once
 
+#include "common/result.h"
+
+#include <QCoreApplication>
 #include <QFuture>
 #include <QtGlobal>
+
+#include <optional>
 
 // The upload of the driver's starter firmware into a camera. The driver does
 // the upload itself while it opens the camera with the upload flag; the
@@ -17,5 +22,13 @@ int expectedSeconds(quint8 typeCode);
 int run(quint32 deviceId);
 // run() as a job on the global thread pool.
 QFuture<int> start(quint32 deviceId);
+
+// How far the upload into the device has come, 0-1000, while one runs; nothing
+// when none runs or the driver does not report it.
+std::optional<int> progress(quint32 deviceId);
+
+// After a successful upload: the starter firmware the camera reports now
+// (its version text in running) must be the one the driver carries.
+Result verify(quint32 deviceId, QString& running);
 
 } // namespace FirmwareUpload

@@ -43,6 +43,8 @@ private slots:
     void onlyTypeCodesWithTheTopBitTakeAnUpload();
     void uploadGivesTheCameraTheDriversStarter_data();
     void uploadGivesTheCameraTheDriversStarter();
+    void progressIsReportedWhileTheUploadRuns();
+    void verificationComparesWithTheDriversStarter();
     void collectedResults();
     void aLaterJobStillAtWorkKeepsTheUploadOpen();
     void cancelAndWaitLetsNoUploadRunOn();
@@ -102,6 +104,34 @@ void TestFirmwareUpload::uploadGivesTheCameraTheDriversStarter()
     QTEST(starterOf(deviceId), "starter");
     // Opened for the upload only.
     QVERIFY(!cameraState(deviceId).value("open").toBool());
+}
+
+void TestFirmwareUpload::progressIsReportedWhileTheUploadRuns()
+{
+    QVERIFY(!FirmwareUpload::progress(pendingUpload));
+    QCOMPARE(pvsim_SetTimeScale(0.02), PV_OK); // 25 s become half a second
+    QFuture<int> upload = FirmwareUpload::start(pendingUpload);
+    QTRY_VERIFY(FirmwareUpload::progress(pendingUpload));
+    int last = 0;
+    QTRY_VERIFY_WITH_TIMEOUT((last = FirmwareUpload::progress(pendingUpload).value_or(last)) >= 300, 5000);
+    QVERIFY(last < 1000);
+    upload.waitForFinished();
+    QCOMPARE(upload.result(), int(PV_OK));
+    QVERIFY(!FirmwareUpload::progress(pendingUpload));
+    QVERIFY(!FirmwareUpload::progress(1499)); // no such device
+}
+
+void TestFirmwareUpload::verificationComparesWithTheDriversStarter()
+{
+    QString running;
+    QCOMPARE(FirmwareUpload::verify(pendingUpload, running).code(), int(HostError::VerificationFailed));
+    QCOMPARE(running, QStringLiteral("3.1.4"));
+    QVERIFY(FirmwareUpload::verify(pendingUpload, running).text().contains("3.2.1"));
+
+    QCOMPARE(FirmwareUpload::run(pendingUpload), int(PV_OK));
+    QVERIFY(FirmwareUpload::verify(pendingUpload, running).isSuccess());
+    QCOMPARE(running, QStringLiteral("3.2.1"));
+    QCOMPARE(FirmwareUpload::verify(1499, running).code(), int(PV_ERR_UNKNOWN_DEVICE));
 }
 
 void TestFirmwareUpload::collectedResults()

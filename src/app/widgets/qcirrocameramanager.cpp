@@ -191,7 +191,7 @@ void QCirroCameramanager::makeConnections()
     connect(&m_autoConfigWatcher, &QFutureWatcherBase::finished, this, &QCirroCameramanager::onAutoConfigFinished);
     connect(m_cameraList, &CameraList::cameraListChanged, m_ipChangeFollowUp, &IpChangeFollowUp::onCameraListChanged);
     connect(m_ipChangeFollowUp, &IpChangeFollowUp::statusMessage, m_statusPanel,
-            [this](const QString& text, const QColor& colour) { m_statusPanel->showNetworkNote(text, colour); });
+            [this](const QString& text, const QColor& colour) { m_statusPanel->showOutcomeNote(text, colour); });
 }
 
 // One line per handled command; the others keep their buttons
@@ -466,7 +466,10 @@ void QCirroCameramanager::onUploadFirmware()
     connect(watcher, &QFutureWatcher<int>::finished, watcher, &QObject::deleteLater);
     Printer(tr("Firmware upload in progress ..."), Qt::black, true);
     m_messagesEnabled = false; // nothing else overwrites the line during the upload
-    m_uploadProgress = new FirmwareUploadProgress(FirmwareUpload::expectedSeconds(camera->typeCode()), this);
+    m_uploadDeviceId = camera->deviceId();
+    const quint32 deviceId = m_uploadDeviceId;
+    m_uploadProgress = new FirmwareUploadProgress(FirmwareUpload::expectedSeconds(camera->typeCode()), this,
+                                                  [deviceId] { return FirmwareUpload::progress(deviceId); });
     m_uploadProgress->show();
     const QFuture<int> upload = FirmwareUpload::start(camera->deviceId());
     watcher->setFuture(upload);
@@ -489,8 +492,25 @@ void QCirroCameramanager::onFirmwareUploadFinished(int index)
                               QMessageBox::Ok);
         Printer(tr("Firmware upload error! %1").arg(outcome.result), Qt::red, false);
     } else if (outcome.lastFinished) {
-        Printer(tr("Firmware upload successful!"), Qt::black, false);
+        reportVerifiedUpload(m_uploadDeviceId);
     }
+}
+
+void QCirroCameramanager::reportVerifiedUpload(quint32 deviceId)
+{
+    QString running;
+    const Result verified = FirmwareUpload::verify(deviceId, running);
+    if (!verified.isSuccess()) {
+        QMessageBox::critical(this, tr("Error"), verified.text(), QMessageBox::Ok);
+        Printer(verified.text(), Qt::red, false);
+        m_statusPanel->showOutcomeNote(verified.text(), Qt::red);
+        return;
+    }
+    Printer(tr("Firmware upload successful!"), Qt::black, false);
+    m_statusPanel->showOutcomeNote(tr("Device %1: firmware upload successful. The camera now runs starter firmware %2.")
+                                       .arg(deviceId)
+                                       .arg(running),
+                                   Qt::darkGreen);
 }
 
 void QCirroCameramanager::closeUploadProgress()

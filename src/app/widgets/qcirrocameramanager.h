@@ -100,6 +100,7 @@ private:
     void updateDetails(bool force);
     void deleteReadOnlyDevice(const Camera& camera);
     void closeUploadProgress();
+    void reportVerifiedUpload(quint32 deviceId);
     const Camera* currentCamera() const;
 
     CameraList* m_cameraList = nullptr;
@@ -123,6 +124,7 @@ private:
     EthDaemonConfig* m_ethDaemonDialog = nullptr; // while it is open
     PendingUploads m_pendingUploads;
     QProgressDialog* m_uploadProgress = nullptr; // while an upload runs
+    quint32 m_uploadDeviceId = 0;
     // The camera of the running automatic configuration, and its settings before.
     camera::optional<Camera> m_autoConfigCamera;
     EthCameraSettings m_autoConfigBefore;

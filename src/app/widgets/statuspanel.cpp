@@ -90,7 +90,7 @@ void StatusPanel::showDetails(const StatusAssessment& status, bool hasCamera)
     m_secondStatusLine->setVisible(!status.unsupportedWarning.isEmpty());
 }
 
-void StatusPanel::showNetworkNote(const QString& text, const QColor& colour)
+void StatusPanel::showOutcomeNote(const QString& text, const QColor& colour)
 {
     m_networkNote->setText(StatusAssessment::fontColoured(colour.name(), text));
     m_networkNote->setVisible(!text.isEmpty());

@@ -21,9 +21,10 @@ public:
     void print(const QString& text, const QColor& colour, bool showProgress);
     // The second line and the picture of an assessment; no camera clears the picture.
     void showDetails(const StatusAssessment& status, bool hasCamera);
-    // A line of its own for the outcome of the last network change, which
-    // stays while the status text follows the selection.
-    void showNetworkNote(const QString& text, const QColor& colour);
+    // A line of its own for the outcome of the last change of a camera (its
+    // network settings, its firmware), which stays while the status text
+    // follows the selection and the driver's events.
+    void showOutcomeNote(const QString& text, const QColor& colour);
     // What the selected camera's network adapter lacks and how to fix it;
     // empty hides the line.
     void showAdapterAdvice(const QString& text);

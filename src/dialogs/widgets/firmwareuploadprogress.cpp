@@ -2,13 +2,15 @@
 
 #include <QTimer>
 
-FirmwareUploadProgress::FirmwareUploadProgress(int expectedSeconds, QWidget* parent,
+FirmwareUploadProgress::FirmwareUploadProgress(int expectedSeconds, QWidget* parent, ProgressSource source,
                                                std::chrono::milliseconds step)
-    : QProgressDialog(tr("Uploading firmware...\n\nPlease don't disconnect the device until this operation is "
-                         "completed.\nThis may take up to %1 seconds.")
-                          .arg(expectedSeconds),
-                      QString(), 0, expectedSeconds, parent)
+    : QProgressDialog(QString(), QString(), 0, expectedSeconds, parent)
+    , m_text(tr("Uploading firmware...\n\nPlease don't disconnect the device until this operation is "
+                "completed.\nThis may take up to %1 seconds.")
+                 .arg(expectedSeconds))
+    , m_source(std::move(source))
 {
+    setLabelText(m_text);
     setObjectName(QStringLiteral("firmwareUploadProgress"));
     setCancelButton(nullptr);
     setWindowModality(Qt::WindowModal);
@@ -23,6 +25,9 @@ FirmwareUploadProgress::FirmwareUploadProgress(int expectedSeconds, QWidget* par
 
 void FirmwareUploadProgress::advance()
 {
-    if (value() < maximum() - 1)
-        setValue(value() + 1);
+    ++m_elapsedSeconds;
+    setLabelText(m_text + QStringLiteral("\n\n") + tr("Elapsed: %n second(s)", nullptr, m_elapsedSeconds));
+    const std::optional<int> permille = m_source ? m_source() : std::nullopt;
+    const int next = permille ? *permille * maximum() / 1000 : value() + 1;
+    setValue(std::min(std::max(next, value()), maximum() - 1));
 }

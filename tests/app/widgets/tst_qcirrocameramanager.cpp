@@ -373,6 +373,9 @@ void TestMainWindow::firmwareUploadGivesTheCameraTheDriversStarter()
 
     QTRY_VERIFY(progress.isNull());
     QVERIFY(window->messagesEnabled());
+    QVERIFY2(child<QLabel>(*window, "networkNote")->text().contains("Device 1002: firmware upload successful. The camera "
+                                                                   "now runs starter firmware 3.2.1."),
+             qPrintable(child<QLabel>(*window, "networkNote")->text()));
     const pv_DeviceInformation after = deviceInfo(pendingUpload);
     QCOMPARE(after.starterFirmware, after.driverFirmwareImage);
     QVERIFY(!(after.deviceControlStatus & PV_CONTROL_OPENED));
