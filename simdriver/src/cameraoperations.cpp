@@ -219,7 +219,7 @@ Result deviceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
                      std::uint32_t index, void* block, std::uint32_t size)
 {
     if (command != PV_FEATURE_READ || feature != PV_FEATURE_DEVICE_CAPABILITIES || index != 0)
-        return failure(PV_ERR_UNKNOWN_COMMAND, "pv_DeviceFeature: unknown feature request");
+        return maintenanceFeature(driver, handle, command, feature, index, block, size);
     if (Result r = checkBuffer(block, size, sizeof(pv_FeatureBlock), "pv_DeviceFeature"); !r.ok())
         return r;
     return driver.read([&](Fleet& fleet) {
@@ -266,7 +266,7 @@ Result cameraCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
                      std::uint32_t size)
 {
     if (command != PV_CAMCMD_IDENTIFY)
-        return failure(PV_ERR_UNKNOWN_COMMAND, "pv_CameraCommand: unknown command " + std::to_string(command));
+        return maintenanceCommand(driver, handle, command, parameter, size);
     if (Result r = checkBuffer(parameter, size, 4, "pv_CameraCommand"); !r.ok())
         return r;
     std::uint32_t value;

@@ -20,6 +20,12 @@ Result rebootDevice(SimDriver& driver, std::uint32_t handle, std::uint32_t mode)
 Result cameraCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
                      std::uint32_t size);
 
+// Camera ID, user EEPROM, parameter sets, FPN calibration and liquid lens.
+Result maintenanceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t command, std::uint32_t feature,
+                          std::uint32_t index, void* block, std::uint32_t size);
+Result maintenanceCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
+                          std::uint32_t size);
+
 Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* block, std::uint32_t size);
 Result configuration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size);
 Result bootBoost(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* buffer, std::uint32_t size);

@@ -14,6 +14,8 @@
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
 #include "details/widgets/deviceinfoview.h"
+#include "dialogs/widgets/additionalcamerainfo.h"
+#include "dialogs/widgets/camerainfo.h"
 #include "driver/widgets/additionalfunctions.h"
 #include "network/adapterdiagnosis.h"
 #include "network/autoconfiguration.h"
@@ -200,6 +202,10 @@ void QCirroCameramanager::registerCommands()
     m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
     m_commands->setHandler(Command::EthService, [this] { onEthDaemonConfig(); });
     m_commands->setHandler(Command::AdditionalFunctions, [this] { OnAdditionalFunctionsDlg(); });
+    m_commands->setHandler(Command::CameraInformation, [this] { OnCameraInfoDlg(); });
+    m_commands->handleRequest(Command::CameraInformation, m_cameraList, &CameraList::openCameraInfo, this,
+                              &QCirroCameramanager::openCameraInfoDialog);
+    m_commands->setHandler(Command::AdditionalCameraInformation, [this] { onAddCameraInfo(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -342,6 +348,44 @@ void QCirroCameramanager::Printer(const QString& text, const QColor& textcolour,
 {
     if (m_messagesEnabled)
         m_statusPanel->print(text, textcolour, bShowProgress);
+}
+
+void QCirroCameramanager::OnCameraInfoDlg()
+{
+    if (const Camera* camera = currentCamera())
+        openCameraInfoDialog(*camera);
+}
+
+void QCirroCameramanager::openCameraInfoDialog(const Camera& camera)
+{
+    if (!ControlStates::qualifiesForCameraInformation(camera))
+        return;
+    CameraInfo dialog(camera, m_cameraList->model()->cameraList(), this);
+    if (dialog.prepare() != 0)
+        return;
+    m_dialogBusy = true;
+    m_cameraList->setAutoRefresh(false);
+    m_cameraList->setUpdatesSuspended(true);
+    dialog.exec();
+    m_cameraList->setUpdatesSuspended(false);
+    m_cameraList->setAutoRefresh(autoRefreshWanted());
+    m_dialogBusy = false;
+    updateDetails(false);
+}
+
+void QCirroCameramanager::onAddCameraInfo()
+{
+    const Camera* camera = currentCamera();
+    if (!camera || !ControlStates::qualifiesForAdditionalCameraInformation(*camera))
+        return;
+    AdditionalCameraInfo dialog(*camera, this);
+    dialog.exec();
+}
+
+bool QCirroCameramanager::autoRefreshWanted() const
+{
+    const QCheckBox* autoRefresh = m_controlArea->autoRefresh();
+    return autoRefresh->isEnabled() && autoRefresh->isChecked();
 }
 
 void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
