@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/camera.h"
+#include "dialogs/adapterstatisticssource.h"
 #include "dialogs/revisionrecord.h"
 
 #include <QDialog>
@@ -8,7 +9,6 @@
 #include <memory>
 
 class AdapterStatisticsModel;
-class AdapterStatisticsSource;
 class QLabel;
 class QTableView;
 class QTimer;
