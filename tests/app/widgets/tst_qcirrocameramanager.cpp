@@ -18,6 +18,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSettings>
+#include <QSpinBox>
+#include <QTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -71,6 +73,8 @@ private slots:
     void selectionFillsTheStatusLines_data();
     void selectionFillsTheStatusLines();
     void commandsWithoutTheirFeatureStayDisabled();
+    void cameraIdWrittenInTheDialogReachesTheList();
+    void failedCameraInformationShowsNothingMore();
     void deletingAReadOnlyDeviceRemovesIt();
     void automaticConfigurationRepairsACamera();
     void manualConfigurationWithASuggestedAddress();
@@ -305,8 +309,7 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile",
-                             "uploadStarterFirmware"})
+    for (const char* name : {"generalInformation", "createSupportFile", "uploadStarterFirmware"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
@@ -314,9 +317,51 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
     // Built, and allowed for a free GigE camera but not for a USB camera.
     QVERIFY(child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "additionalCameraInfo")->isEnabled());
     select(*window, 0);
     QVERIFY(!child<QPushButton>(*window, "manualEthConfiguration")->isEnabled());
     QVERIFY(!child<QPushButton>(*window, "automaticEthConfiguration")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    // In use elsewhere: no information dialogs.
+    select(*window, 3);
+    QVERIFY(!child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    QVERIFY(!child<QPushButton>(*window, "additionalCameraInfo")->isEnabled());
+}
+
+void TestMainWindow::cameraIdWrittenInTheDialogReachesTheList()
+{
+    const auto window = makeWindow();
+    child<QCheckBox>(*window, "expertMode")->setChecked(true);
+    child<QCheckBox>(*window, "autoRefresh")->setChecked(true);
+    window->cameraList()->setAutoRefresh(true);
+    select(*window, 1);
+    bool refreshedMeanwhile = true;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog && dialog->objectName() == "cameraInfo");
+        refreshedMeanwhile = window->cameraList()->isAutoRefreshOn();
+        dialog->findChild<QSpinBox*>("newId")->setValue(99);
+        dialog->findChild<QPushButton*>("writeId")->click();
+        dialog->reject();
+    });
+    child<QPushButton>(*window, "cameraInformation")->click();
+    QVERIFY(!refreshedMeanwhile);
+    QVERIFY(window->cameraList()->isAutoRefreshOn());
+    QTRY_VERIFY(window->cameraList()->selectedCamera() && window->cameraList()->selectedCamera()->cameraId() == 99);
+    QVERIFY(!cameraState(1).value("open").toBool());
+}
+
+void TestMainWindow::failedCameraInformationShowsNothingMore()
+{
+    const auto window = makeWindow();
+    select(*window, 0);
+    MessageBoxAnswerer answerer(QMessageBox::Ok);
+    pvsim_FailOperation("pv_OpenCamera", PV_ERR_DEVICE_IN_USE, 1);
+    child<QPushButton>(*window, "cameraInformation")->click();
+    QCOMPARE(answerer.seen.size(), 1);
+    QVERIFY(answerer.seen.first().contains("107"));
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()

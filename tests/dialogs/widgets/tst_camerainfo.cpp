@@ -91,14 +91,14 @@ void TestCameraInfo::pagesFollowTheCapabilities()
 {
     QFETCH(quint32, deviceId);
     QFETCH(QStringList, pages);
-    const auto dialog = prepared(deviceId);
+    auto dialog = prepared(deviceId);
     QVERIFY(dialog);
     QStringList shown;
     for (int i = 0; i < dialog->pages()->count(); ++i)
         shown << dialog->pages()->widget(i)->objectName();
     QCOMPARE(shown, pages);
     QVERIFY(cameraState(deviceId).value("open").toBool());
-    delete dialog.release();
+    dialog.reset();
     QVERIFY(!cameraState(deviceId).value("open").toBool());
 }
 
