@@ -24,12 +24,17 @@ AdditionalCameraInfo::AdditionalCameraInfo(const Camera& camera, QWidget* parent
     setWindowTitle(tr("Additional Camera Info"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     readRevisionRecord();
+    auto* header = new QLabel(tr("<b>%1</b> &nbsp; serial number %2, device ID %3")
+                                  .arg(camera.model().toHtmlEscaped(), camera.serialNumber().toHtmlEscaped())
+                                  .arg(camera.deviceId()),
+                              this);
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(header);
     layout->addWidget(buildRevisionGroup(), 1);
     if (camera.kind() == Camera::Kind::Eth) {
         if (!statistics)
             statistics = AdapterStatisticsSource::forAdapter(camera.adapterName());
-        layout->addWidget(buildStatisticsGroup(std::move(statistics)), 2);
+        layout->addWidget(buildStatisticsGroup(std::move(statistics)), 1);
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton* copy = buttons->addButton(tr("Copy as text"), QDialogButtonBox::ActionRole);
@@ -37,7 +42,7 @@ AdditionalCameraInfo::AdditionalCameraInfo(const Camera& camera, QWidget* parent
     connect(copy, &QPushButton::clicked, this, &AdditionalCameraInfo::onCopy);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(620, camera.kind() == Camera::Kind::Eth ? 760 : 520);
+    resize(660, camera.kind() == Camera::Kind::Eth ? 860 : 540);
 }
 
 AdditionalCameraInfo::~AdditionalCameraInfo() = default;
@@ -53,10 +58,7 @@ void AdditionalCameraInfo::readRevisionRecord()
 
 QWidget* AdditionalCameraInfo::buildRevisionGroup()
 {
-    auto* group = new QGroupBox(tr("Revision record of camera %1 (%2, serial number %3)")
-                                    .arg(m_camera.deviceId())
-                                    .arg(m_camera.model(), m_camera.serialNumber()),
-                                this);
+    auto* group = new QGroupBox(tr("Revision record"), this);
     auto* layout = new QVBoxLayout(group);
     if (!m_revisionFailure.isEmpty()) {
         auto* failure = new QLabel(m_revisionFailure, group);
@@ -88,7 +90,9 @@ QWidget* AdditionalCameraInfo::buildStatisticsGroup(std::unique_ptr<AdapterStati
     m_statisticsView->setObjectName(QStringLiteral("adapterStatistics"));
     m_statisticsView->setModel(m_statistics);
     m_statisticsView->verticalHeader()->hide();
+    m_statisticsView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_statisticsView->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_statisticsView->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_statisticsView->setSelectionBehavior(QAbstractItemView::SelectRows);
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(m_statisticsNote);

@@ -48,7 +48,7 @@ CameraInfo::CameraInfo(const Camera& camera, QList<std::shared_ptr<Camera>> list
     layout->addWidget(header);
     layout->addWidget(m_pages, 1);
     layout->addWidget(buttons);
-    resize(560, 460);
+    resize(720, 520);
 }
 
 CameraInfo::~CameraInfo()

@@ -35,6 +35,7 @@ CameraInfoFpnPage::CameraInfoFpnPage(quint32 handle, QWidget* parent)
     grid->addWidget(m_start, 3, 0);
     grid->addWidget(m_cancel, 3, 1);
     grid->addWidget(m_reset, 3, 2);
+    grid->setRowStretch(4, 1);
     m_poll = new QTimer(this);
     m_poll->setInterval(pollIntervalMs);
     connect(m_poll, &QTimer::timeout, this, &CameraInfoFpnPage::onPoll);

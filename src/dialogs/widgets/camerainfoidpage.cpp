@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 CameraInfoIdPage::CameraInfoIdPage(quint32 handle, quint32 deviceId, QList<std::shared_ptr<Camera>> listed,
                                    QWidget* parent)
@@ -31,13 +32,16 @@ CameraInfoIdPage::CameraInfoIdPage(quint32 handle, quint32 deviceId, QList<std::
     row->addWidget(m_newId);
     row->addWidget(m_write);
     row->addStretch(1);
-    auto* form = new QFormLayout(content());
+    auto* outer = new QVBoxLayout(content());
+    auto* form = new QFormLayout;
+    outer->addLayout(form);
     form->addRow(tr("Current camera ID:"), m_current);
     form->addRow(tr("New camera ID:"), row);
-    form->addRow(m_warning);
     auto* hint = new QLabel(tr("The camera list shows the new ID as soon as the driver reports the change."), content());
     hint->setWordWrap(true);
-    form->addRow(hint);
+    outer->addWidget(m_warning);
+    outer->addWidget(hint);
+    outer->addStretch(1);
     connect(m_write, &QPushButton::clicked, this, &CameraInfoIdPage::onWrite);
     connect(m_newId, qOverload<int>(&QSpinBox::valueChanged), this, &CameraInfoIdPage::onIdChanged);
 }

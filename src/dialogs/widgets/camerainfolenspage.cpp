@@ -37,6 +37,7 @@ CameraInfoLensPage::CameraInfoLensPage(quint32 handle, QWidget* parent)
     grid->addWidget(m_range, 1, 1, 1, 2);
     grid->addWidget(m_startup, 2, 1, 1, 2);
     grid->addWidget(m_store, 3, 2);
+    grid->setRowStretch(4, 1);
     grid->setColumnStretch(1, 1);
     connect(m_slider, &QSlider::valueChanged, this, &CameraInfoLensPage::onSliderMoved);
     connect(m_slider, &QSlider::sliderReleased, this, [this] { apply(m_slider->value()); });

@@ -17,8 +17,7 @@ CameraInfoPage::CameraInfoPage(quint32 handle, QWidget* parent)
     m_note->hide();
     m_content = new QWidget(this);
     layout->addWidget(m_note);
-    layout->addWidget(m_content);
-    layout->addStretch(1);
+    layout->addWidget(m_content, 1);
 }
 
 bool CameraInfoPage::isSupported() const

@@ -23,7 +23,9 @@ CameraInfoParameterPage::CameraInfoParameterPage(quint32 handle, QWidget* parent
     m_values = new QTableWidget(0, 2, content());
     m_values->setObjectName(QStringLiteral("parameterValues"));
     m_values->setHorizontalHeaderLabels({tr("Parameter"), tr("Value")});
-    m_values->horizontalHeader()->setStretchLastSection(true);
+    m_values->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_values->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_values->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_values->verticalHeader()->hide();
     m_values->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_startup = new QLabel(content());
