@@ -277,6 +277,13 @@ void TestSimScenario::rejectedPlugsAndChanges_data()
 
     QTest::newRow("plug: not JSON") << plug(R"({"kind": "usb")") << invalid;
     QTest::newRow("plug: no kind") << plug(R"({"serial": "X1"})") << invalid;
+    QTest::newRow("plug: user EEPROM over 64 bytes")
+        << plug(R"({"kind": "usb", "userSpace": "0123456789012345678901234567890123456789012345678901234567890123X"})")
+        << invalid;
+    QTest::newRow("plug: maintenance bits out of range") << plug(R"({"kind": "usb", "maintenance": 256})") << invalid;
+    QTest::newRow("change: user EEPROM over 64 bytes")
+        << change(0, R"({"userSpace": "0123456789012345678901234567890123456789012345678901234567890123X"})")
+        << invalid;
     QTest::newRow("plug: unknown field") << plug(R"({"kind": "usb", "colour": "red"})") << invalid;
     QTest::newRow("plug: unknown adapter")
         << plug(R"({"kind": "eth", "adapter": "simnet9", "mac": "00:1c:c1:0b:00:02"})")
