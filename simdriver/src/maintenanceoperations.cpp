@@ -228,19 +228,10 @@ bool commandInfo(std::uint32_t command, CommandInfo& info)
 
 Result maintenanceCapabilities(SimDriver& driver, std::uint32_t handle, void* block, std::uint32_t size)
 {
-    if (Result r = checkBuffer(block, size, sizeof(pv_FeatureBlock), "pv_DeviceFeature"); !r.ok())
-        return r;
-    return driver.read([&](Fleet& fleet) {
-        SimCamera* camera = nullptr;
-        Result result = fleet.resolve(handle, camera);
-        if (result.ok()) {
-            pv_FeatureBlock features{};
-            features.status = camera->maintenance.capabilities;
-            features.featureId = PV_FEATURE_MAINTENANCE;
-            features.values[0] = (camera->maintenance.capabilities & PV_MAINT_USER_EEPROM) ? PV_USER_EEPROM_SIZE : 0;
-            std::memcpy(block, &features, sizeof features);
-        }
-        return result;
+    return readFeatureBlock(driver, handle, block, size, [](const SimCamera& camera, pv_FeatureBlock& features) {
+        features.status = camera.maintenance.capabilities;
+        features.featureId = PV_FEATURE_MAINTENANCE;
+        features.values[0] = (camera.maintenance.capabilities & PV_MAINT_USER_EEPROM) ? PV_USER_EEPROM_SIZE : 0;
     });
 }
 

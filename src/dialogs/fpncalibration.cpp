@@ -19,15 +19,22 @@ Result FpnCalibration::read(quint32 handle, State* state)
     return {};
 }
 
-Result FpnCalibration::start(quint32 handle)
+Result FpnCalibration::commandConfirmed(quint32 handle, quint32 command, const QString& what,
+                                        bool (*confirmed)(const State& state))
 {
-    const QString what = tr("The FPN calibration could not be started.");
-    if (Result started = CameraCall::command(handle, PV_CAMCMD_FPN_START, what); !started.isSuccess())
-        return started;
+    if (Result sent = CameraCall::command(handle, command, what); !sent.isSuccess())
+        return sent;
     State state;
     if (Result r = read(handle, &state); !r.isSuccess())
         return r;
-    return state.running || state.lastResult == PV_OK ? Result() : CameraCall::notConfirmed(what);
+    return confirmed(state) ? Result() : CameraCall::notConfirmed(what);
+}
+
+Result FpnCalibration::start(quint32 handle)
+{
+    // A short calibration may be over by the time it is read back.
+    return commandConfirmed(handle, PV_CAMCMD_FPN_START, tr("The FPN calibration could not be started."),
+                            [](const State& state) { return state.running || state.lastResult == PV_OK; });
 }
 
 Result FpnCalibration::cancel(quint32 handle)
@@ -37,13 +44,9 @@ Result FpnCalibration::cancel(quint32 handle)
 
 Result FpnCalibration::resetToFactory(quint32 handle)
 {
-    const QString what = tr("The factory FPN calibration could not be restored.");
-    if (Result reset = CameraCall::command(handle, PV_CAMCMD_FPN_FACTORY_RESET, what); !reset.isSuccess())
-        return reset;
-    State state;
-    if (Result r = read(handle, &state); !r.isSuccess())
-        return r;
-    return state.userCalibration ? CameraCall::notConfirmed(what) : Result();
+    return commandConfirmed(handle, PV_CAMCMD_FPN_FACTORY_RESET,
+                            tr("The factory FPN calibration could not be restored."),
+                            [](const State& state) { return !state.userCalibration; });
 }
 
 QString FpnCalibration::describe(const State& state)

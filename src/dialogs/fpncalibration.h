@@ -32,4 +32,9 @@ public:
 
     // "Calibrated on <date> ..." for the calibration in use and the last run.
     static QString describe(const State& state);
+
+private:
+    // Runs the command and reads the state back; confirmed(state) decides.
+    static Result commandConfirmed(quint32 handle, quint32 command, const QString& what,
+                                   bool (*confirmed)(const State& state));
 };
