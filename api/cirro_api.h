@@ -55,7 +55,8 @@ enum pv_ReturnCode {
     PV_ERR_NO_MEMORY = 127,
     PV_ERR_BOOT_BOOST_ACTIVE = 129,
     PV_ERR_NOT_SUPPORTED = 155,
-    PV_ERR_FIRMWARE_UNAVAILABLE = 156
+    PV_ERR_FIRMWARE_UNAVAILABLE = 156,
+    PV_ERR_CANCELLED = 157
 };
 
 /* -------------------------------------------------- handles and device IDs */
@@ -393,6 +394,95 @@ typedef struct pv_RevisionInfo {
 #define PV_CAMCMD_IDENTIFY 9u
 #define PV_IDENTIFY_BLINK 6u
 
+/* ------------------------------------------------- camera maintenance --- */
+
+/* pv_DeviceFeature writes a feature with PV_FEATURE_WRITE; the block has the
+ * layout that PV_FEATURE_READ delivers. A library that does not know a
+ * feature or command answers PV_ERR_UNKNOWN_COMMAND. */
+#define PV_FEATURE_WRITE 2u
+
+/* Which maintenance functions a camera offers: PV_FEATURE_READ into a
+ * pv_FeatureBlock, by device ID or open handle. status holds PV_MAINT_* bits,
+ * values[0] the size of the user EEPROM in bytes. */
+#define PV_FEATURE_MAINTENANCE 30u
+#define PV_MAINT_CAMERA_ID 0x01u
+#define PV_MAINT_USER_EEPROM 0x02u
+#define PV_MAINT_PARAMETER_SETS 0x04u
+#define PV_MAINT_FPN_CALIBRATION 0x08u
+#define PV_MAINT_LIQUID_LENS 0x10u
+
+/* The features below need an open handle and take index 0 unless said. */
+
+/* Camera ID, a uint32_t from PV_CAMERA_ID_MIN to PV_CAMERA_ID_MAX. Writing it
+ * changes the camera list entry; the driver signals the change. */
+#define PV_FEATURE_CAMERA_ID 31u
+#define PV_CAMERA_ID_MIN 1u
+#define PV_CAMERA_ID_MAX 254u
+
+/* The user EEPROM, read and written whole (PV_USER_EEPROM_SIZE bytes). Its
+ * first 8 bytes are the userSpace text of the device information. */
+#define PV_FEATURE_USER_EEPROM 32u
+#define PV_USER_EEPROM_SIZE 64u
+
+/* A stored parameter set (pv_ParameterSet); the index names the set. The
+ * factory set is read-only (PV_ERR_INVALID_PARAMETER); a written set must name
+ * the camera's model and the parameters the camera has. */
+#define PV_FEATURE_PARAMETER_SET 33u
+#define PV_PARAMSET_FACTORY 0u
+#define PV_PARAMSET_USER1 1u
+#define PV_PARAMSET_USER2 2u
+#define PV_PARAMSET_COUNT 3u
+#define PV_PARAMSET_MAX_VALUES 16u
+/* The set the camera loads when it starts, a uint32_t set index. */
+#define PV_FEATURE_STARTUP_SET 34u
+
+typedef struct pv_ParameterValue {
+    char name[28]; /* NUL-terminated */
+    int32_t value;
+} pv_ParameterValue;
+
+typedef struct pv_ParameterSet {
+    char model[16]; /* the model the set belongs to, NUL-terminated */
+    uint32_t count; /* values used, at most PV_PARAMSET_MAX_VALUES */
+    uint32_t reserved;
+    pv_ParameterValue values[PV_PARAMSET_MAX_VALUES];
+} pv_ParameterSet;
+
+/* The fixed-pattern-noise calibration (pv_FpnStatus), read only. */
+#define PV_FEATURE_FPN_STATUS 35u
+#define PV_FPN_IDLE 0u
+#define PV_FPN_RUNNING 1u
+#define PV_FPN_SOURCE_FACTORY 0u
+#define PV_FPN_SOURCE_USER 1u
+
+typedef struct pv_FpnStatus {
+    uint32_t state;         /* PV_FPN_IDLE or PV_FPN_RUNNING */
+    uint32_t progress;      /* percent of the running calibration */
+    uint32_t source;        /* the calibration in use: factory or user */
+    int32_t lastResult;     /* of the last run: 0, PV_ERR_CANCELLED or a failure */
+    uint32_t residualNoise; /* of the calibration in use, in 1/1000 digital number */
+    char date[20];          /* of the calibration in use, "YYYY-MM-DD hh:mm" */
+} pv_FpnStatus;
+
+/* The liquid lens (pv_LiquidLens); focal powers in 1/100 dioptre. A write
+ * takes only `current`, which must lie within the lens's range. */
+#define PV_FEATURE_LIQUID_LENS 36u
+
+typedef struct pv_LiquidLens {
+    int32_t current;
+    int32_t minimum;
+    int32_t maximum;
+    int32_t startup; /* the power the lens takes when the camera starts */
+} pv_LiquidLens;
+
+/* pv_CameraCommand on an open handle; parameters as noted, else none (NULL, 0). */
+#define PV_CAMCMD_PARAMSET_SAVE 0x20u          /* uint32_t user set: store the current settings in it */
+#define PV_CAMCMD_PARAMSET_FACTORY_RESET 0x21u /* current settings and start-up set back to factory */
+#define PV_CAMCMD_FPN_START 0x30u              /* starts a calibration; PV_ERR_BUSY while one runs */
+#define PV_CAMCMD_FPN_CANCEL 0x31u             /* cancels it; the calibration in use stays */
+#define PV_CAMCMD_FPN_FACTORY_RESET 0x32u      /* the factory calibration is used again */
+#define PV_CAMCMD_LENS_STORE_STARTUP 0x40u     /* the current focal power becomes the start-up value */
+
 /* ------------------------------------------------------------------ events */
 
 #define PV_EVENT_INIT 1u
@@ -596,6 +686,10 @@ PV_STATIC_ASSERT(sizeof(pv_FeatureBlock) == 140, "feature block");
 PV_STATIC_ASSERT(sizeof(pv_CameraInfo) == 128, "camera info block");
 PV_STATIC_ASSERT(sizeof(pv_SensorInfo) == 64, "sensor block");
 PV_STATIC_ASSERT(sizeof(pv_RevisionInfo) == 288, "revision block");
+PV_STATIC_ASSERT(sizeof(pv_ParameterValue) == 32, "parameter value");
+PV_STATIC_ASSERT(sizeof(pv_ParameterSet) == 536, "parameter set");
+PV_STATIC_ASSERT(sizeof(pv_FpnStatus) == 40, "FPN status");
+PV_STATIC_ASSERT(sizeof(pv_LiquidLens) == 16, "liquid lens block");
 PV_STATIC_ASSERT(sizeof(pv_EventInit) == 12, "event init block");
 PV_STATIC_ASSERT(sizeof(pv_EventWait) == 32, "event wait block");
 PV_STATIC_ASSERT(offsetof(pv_EventWait, count) == 8, "wait: count");

@@ -277,7 +277,16 @@ Result deviceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
                      std::uint32_t index, void* block, std::uint32_t size)
 {
     if (command != PV_FEATURE_READ || feature != PV_FEATURE_DEVICE_CAPABILITIES || index != 0)
-        return failure(PV_ERR_UNKNOWN_COMMAND, "pv_DeviceFeature: unknown feature request");
+        return maintenanceFeature(driver, handle, command, feature, index, block, size);
+    return readFeatureBlock(driver, handle, block, size, [](const SimCamera& camera, pv_FeatureBlock& features) {
+        features.status = camera.features;
+        features.featureId = PV_FEATURE_DEVICE_CAPABILITIES;
+    });
+}
+
+Result readFeatureBlock(SimDriver& driver, std::uint32_t handle, void* block, std::uint32_t size,
+                        const std::function<void(const SimCamera&, pv_FeatureBlock&)>& fill)
+{
     if (Result r = checkBuffer(block, size, sizeof(pv_FeatureBlock), "pv_DeviceFeature"); !r.ok())
         return r;
     return driver.read([&](Fleet& fleet) {
@@ -285,8 +294,7 @@ Result deviceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
         Result result = fleet.resolve(handle, camera);
         if (result.ok()) {
             pv_FeatureBlock features{};
-            features.status = camera->features;
-            features.featureId = feature;
+            fill(*camera, features);
             std::memcpy(block, &features, sizeof features);
         }
         return result;
@@ -324,7 +332,7 @@ Result cameraCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
                      std::uint32_t size)
 {
     if (command != PV_CAMCMD_IDENTIFY)
-        return failure(PV_ERR_UNKNOWN_COMMAND, "pv_CameraCommand: unknown command " + std::to_string(command));
+        return maintenanceCommand(driver, handle, command, parameter, size);
     if (Result r = checkBuffer(parameter, size, 4, "pv_CameraCommand"); !r.ok())
         return r;
     std::uint32_t value;

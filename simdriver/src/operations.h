@@ -2,6 +2,8 @@
 
 #include "simdriver.h"
 
+#include <functional>
+
 // The pv_ operations of the simulated driver, one function each, grouped by
 // area in cameraoperations.cpp, ethoperations.cpp and driveroperations.cpp.
 namespace sim::ops {
@@ -19,6 +21,16 @@ Result deviceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t comm
 Result rebootDevice(SimDriver& driver, std::uint32_t handle, std::uint32_t mode);
 Result cameraCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
                      std::uint32_t size);
+
+// Fills a feature block of the camera that handle names (open or by device ID).
+Result readFeatureBlock(SimDriver& driver, std::uint32_t handle, void* block, std::uint32_t size,
+                        const std::function<void(const SimCamera&, pv_FeatureBlock&)>& fill);
+
+// Camera ID, user EEPROM, parameter sets, FPN calibration and liquid lens.
+Result maintenanceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t command, std::uint32_t feature,
+                          std::uint32_t index, void* block, std::uint32_t size);
+Result maintenanceCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
+                          std::uint32_t size);
 
 Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* block, std::uint32_t size);
 Result configuration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size);

@@ -98,4 +98,51 @@ void SimAdapter::fillBlock(pv_AdapterBlock& block, std::uint32_t devicesKnown, s
     block.rangeValid = rangeValid();
 }
 
+namespace {
+
+struct Traffic
+{
+    std::uint64_t rxPackets, rxBytes, txPackets, txBytes, dropped, missed, fifo;
+};
+
+// Each camera streams about 8000 packets a second and takes a heartbeat
+// answer every 100 ms.
+Traffic traffic(const SimAdapter& adapter, std::uint64_t elapsedMs, std::uint32_t cameras)
+{
+    Traffic t{};
+    if (!adapter.linkUp)
+        return t;
+    t.rxPackets = elapsedMs * 8 * cameras;
+    t.rxBytes = t.rxPackets * (adapter.driverPacketSize() + 42);
+    t.txPackets = elapsedMs / 100 * cameras + elapsedMs / 1000;
+    t.txBytes = t.txPackets * 64;
+    t.dropped = adapter.settingsOk() ? 0 : t.rxPackets / 500;
+    t.missed = adapter.linkSpeed < 1000 ? t.rxPackets / 2000 : 0;
+    t.fifo = t.missed / 4;
+    return t;
+}
+
+} // namespace
+
+SimAdapter::Counters SimAdapter::interfaceCounters(std::uint64_t elapsedMs, std::uint32_t cameras) const
+{
+    const Traffic t = traffic(*this, elapsedMs, cameras);
+    return {{"rx_packets", t.rxPackets},  {"tx_packets", t.txPackets},
+            {"rx_bytes", t.rxBytes},      {"tx_bytes", t.txBytes},
+            {"rx_errors", t.missed + t.fifo}, {"tx_errors", 0},
+            {"rx_dropped", t.dropped},    {"tx_dropped", 0},
+            {"multicast", elapsedMs / 1000}, {"collisions", 0},
+            {"rx_crc_errors", 0},         {"rx_frame_errors", 0},
+            {"rx_fifo_errors", t.fifo},   {"rx_missed_errors", t.missed},
+            {"rx_length_errors", 0},      {"rx_over_errors", 0}};
+}
+
+SimAdapter::Counters SimAdapter::driverCounters(std::uint64_t elapsedMs, std::uint32_t cameras) const
+{
+    const Traffic t = traffic(*this, elapsedMs, cameras);
+    return {{"rx_no_buffer_count", t.dropped}, {"rx_missed_errors", t.missed},
+            {"rx_align_errors", 0},            {"rx_long_length_errors", 0},
+            {"tx_timeout_count", 0},           {"rx_csum_offload_good", t.rxPackets}};
+}
+
 } // namespace sim

@@ -5,6 +5,8 @@
 
 #include <QJsonObject>
 
+#include <chrono>
+#include <utility>
 #include <vector>
 
 namespace sim {
@@ -39,6 +41,9 @@ struct SimAdapter
     };
     std::vector<HostRange> hosts;
 
+    // Since when the adapter counts its traffic.
+    std::chrono::steady_clock::time_point countingSince = std::chrono::steady_clock::now();
+
     Result apply(const QJsonObject& json);
 
     bool rangeValid() const;
@@ -52,6 +57,14 @@ struct SimAdapter
     std::uint32_t driverPacketSize() const { return jumbo2k ? 2048u : 1450u; }
     bool matches(const pv_AdapterId& id) const;
     void fillBlock(pv_AdapterBlock& block, std::uint32_t devicesKnown, std::uint32_t devicesPaired) const;
+
+    using Counters = std::vector<std::pair<const char*, std::uint64_t>>;
+    // The interface counters as the kernel keeps them, and the counters of
+    // the adapter's own driver, after the cameras on it sent for elapsedMs.
+    // An adapter whose packets are too small for the cameras drops frames,
+    // a slow link misses them.
+    Counters interfaceCounters(std::uint64_t elapsedMs, std::uint32_t cameras) const;
+    Counters driverCounters(std::uint64_t elapsedMs, std::uint32_t cameras) const;
 };
 
 } // namespace sim

@@ -80,12 +80,14 @@ SimCamera::SimCamera(CameraKind kind)
 {
     switch (kind) {
     case CameraKind::Usb:
+        maintenance.capabilities = PV_MAINT_CAMERA_ID | PV_MAINT_USER_EEPROM | PV_MAINT_PARAMETER_SETS;
         typeCode = 0x62;
         linkSpeed = 4000;
         model = "CR-U3-50M";
         fullModel = "CRU3-50M mono USB 3";
         break;
     case CameraKind::Eth:
+        maintenance.capabilities = PV_MAINT_CAMERA_ID | PV_MAINT_USER_EEPROM | PV_MAINT_PARAMETER_SETS;
         typeCode = 0x8A;
         linkSpeed = 1000;
         model = "CR-G5-12C";
@@ -147,6 +149,7 @@ Result SimCamera::apply(const QJsonObject& json)
     reader.readInt("imageMemoryMB", imageMemoryMB, 0, 0xFFFFFFFFll);
     reader.read("userSpace", userSpace);
     reader.read("date", date);
+    maintenance.readScenario(reader);
     reader.read("adapter", adapterName);
     reader.readMac("mac", mac);
     reader.readIp("persistentIp", persistentIp);
@@ -159,7 +162,11 @@ Result SimCamera::apply(const QJsonObject& json)
     reader.read("firmwareCorrupted", firmwareCorrupted);
     reader.readIp("sourceIp", sourceIp);
     reader.readInt("readOnlyMode", readOnlyMode, 1, 4);
-    return reader.finish();
+    Result result = reader.finish();
+    if (result.ok() && userSpace.size() > PV_USER_EEPROM_SIZE)
+        return failure(PV_ERR_INVALID_PARAMETER, "camera \"" + serial + "\": field \"userSpace\" holds more than "
+                                                     + std::to_string(PV_USER_EEPROM_SIZE) + " bytes");
+    return result;
 }
 
 Result SimCamera::applyChange(const QJsonObject& json)
@@ -471,6 +478,20 @@ void SimCamera::fillRevisionInfo(pv_RevisionInfo& info) const
                              &info.processingBoard, &info.memoryBoard, &info.housing, &info.filter,
                              &info.timingBoard, &info.productRevision, &info.logicBoard, &info.powerBoard})
         copyText(*board, "1." + std::to_string(deviceId % 10));
+}
+
+void SimCamera::fillUserEeprom(std::uint8_t (&block)[PV_USER_EEPROM_SIZE]) const
+{
+    std::memset(block, 0, sizeof block);
+    std::memcpy(block, userSpace.data(), std::min<std::size_t>(userSpace.size(), sizeof block));
+}
+
+void SimCamera::writeUserEeprom(const std::uint8_t (&block)[PV_USER_EEPROM_SIZE])
+{
+    std::size_t used = sizeof block;
+    while (used > 0 && block[used - 1] == 0)
+        --used;
+    userSpace.assign(reinterpret_cast<const char*>(block), used);
 }
 
 } // namespace sim

@@ -2,6 +2,7 @@
 
 #include "driversettings.h"
 #include "simadapter.h"
+#include "simmaintenance.h"
 
 #include <chrono>
 
@@ -43,6 +44,8 @@ struct SimCamera
     void fillCameraInfo(pv_CameraInfo& info) const;
     void fillSensorInfo(pv_SensorInfo& info) const;
     void fillRevisionInfo(pv_RevisionInfo& info) const;
+    void fillUserEeprom(std::uint8_t (&block)[PV_USER_EEPROM_SIZE]) const;
+    void writeUserEeprom(const std::uint8_t (&block)[PV_USER_EEPROM_SIZE]);
 
     // Identity
     CameraKind kind;
@@ -75,7 +78,7 @@ struct SimCamera
     std::uint32_t ipCapabilities = PV_IPCAP_PERSISTENT | PV_IPCAP_DHCP | PV_IPCAP_RANGE;
     std::int16_t comPortOffset = 0;
     std::uint32_t imageMemoryMB = 256;
-    std::string userSpace;
+    std::string userSpace; // the user EEPROM, up to PV_USER_EEPROM_SIZE bytes
     std::string date = "2025-06-12";
 
     // ETH and read-only devices
@@ -91,6 +94,8 @@ struct SimCamera
     bool firmwareCorrupted = false;
     std::uint32_t sourceIp = 0;     // read-only device: the camera it listens to
     std::uint32_t readOnlyMode = 1; // read-only device: error handling
+
+    SimMaintenance maintenance;
 
     // Driver state
     std::uint32_t openHandle = 0;

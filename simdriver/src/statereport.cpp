@@ -4,6 +4,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <chrono>
+
 namespace sim {
 
 namespace {
@@ -49,8 +52,19 @@ QJsonObject cameraReport(const SimCamera& camera, bool visible)
     };
 }
 
-QJsonObject adapterReport(const SimAdapter& adapter)
+QJsonObject counterReport(const SimAdapter::Counters& counters)
 {
+    QJsonObject report;
+    for (const auto& [name, value] : counters)
+        report.insert(QLatin1String(name), qint64(value));
+    return report;
+}
+
+QJsonObject adapterReport(const SimAdapter& adapter, std::uint32_t cameras)
+{
+    const auto elapsedMs = std::uint64_t(std::chrono::duration_cast<std::chrono::milliseconds>(
+                                             std::chrono::steady_clock::now() - adapter.countingSince)
+                                             .count());
     QJsonArray hosts;
     for (const SimAdapter::HostRange& range : adapter.hosts)
         hosts.append(range.first == range.last ? ip(range.first) : ip(range.first) + '-' + ip(range.last));
@@ -70,6 +84,8 @@ QJsonObject adapterReport(const SimAdapter& adapter)
         {"packetFilter", adapter.packetFilter},
         {"rangeBegin", ip(adapter.rangeBegin)},
         {"rangeEnd", ip(adapter.rangeEnd)},
+        {"statistics", counterReport(adapter.interfaceCounters(elapsedMs, cameras))},
+        {"driverStatistics", counterReport(adapter.driverCounters(elapsedMs, cameras))},
         {"hosts", hosts},
     };
 }
@@ -114,8 +130,12 @@ std::string stateReport(const Fleet& fleet, std::size_t eventCount)
         cameras.append(cameraReport(camera, shown));
     }
     QJsonArray adapters;
-    for (const SimAdapter& adapter : fleet.adapters)
-        adapters.append(adapterReport(adapter));
+    for (const SimAdapter& adapter : fleet.adapters) {
+        const auto streaming = std::count_if(visible.begin(), visible.end(), [&](const SimCamera* camera) {
+            return camera->kind == CameraKind::Eth && camera->adapterName == adapter.name;
+        });
+        adapters.append(adapterReport(adapter, std::uint32_t(streaming)));
+    }
     const QJsonObject root{
         {"driver", settingsReport(fleet.settings)},
         {"adapters", adapters},

@@ -37,14 +37,4 @@ void applyTo(QCoreApplication& app)
     app.setApplicationVersion(applicationVersion());
 }
 
-QString settingsOrganisation()
-{
-    return QStringLiteral("Parvel");
-}
-
-QString settingsApplication()
-{
-    return QStringLiteral("CameraManager");
-}
-
 } // namespace Identity

@@ -15,9 +15,4 @@ QString applicationName();  // translated "%1 Camera Manager"
 
 void applyTo(QCoreApplication& app);
 
-// Where the user's settings are kept: organisation "Parvel", application
-// "CameraManager" (not the display names above).
-QString settingsOrganisation();
-QString settingsApplication();
-
 } // namespace Identity

@@ -1,6 +1,6 @@
 #include "app/viewerlauncher.h"
 
-#include "app/identity.h"
+#include "common/usersettings.h"
 
 #include <QProcess>
 #include <QSettings>
@@ -20,7 +20,7 @@ QString viewerProgram()
 
 QString viewerPath()
 {
-    const QString configured = QSettings(Identity::settingsOrganisation(), Identity::settingsApplication()).value(settingsKey()).toString();
+    const QString configured = UserSettings::open().value(settingsKey()).toString();
     if (!configured.isEmpty())
         return configured;
     return QStandardPaths::findExecutable(viewerProgram());

@@ -1,15 +1,10 @@
 #include "network/ethtooldriverinfo_linux.h"
 
+#include "network/ethtoolrequest_linux.h"
 #include "network/networklogging.h"
 
 #include <linux/ethtool.h>
-#include <linux/sockios.h>
-#include <net/if.h>
-#include <sys/ioctl.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cstring>
 
 namespace {
@@ -23,25 +18,9 @@ QString fixedText(const char* text, std::size_t size)
 
 AdapterDriverInfo EthtoolDriverInfo::query(const QString& interfaceName)
 {
-    const QByteArray name = interfaceName.toUtf8();
-    if (name.isEmpty() || name.size() >= IFNAMSIZ)
-        return {};
-
-    // Any socket will do for the request; this one never sends anything.
-    const int fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    if (fd < 0) {
-        qCWarning(lcNetwork) << "no socket for the driver query:" << std::strerror(errno);
-        return {};
-    }
     ethtool_drvinfo info{};
     info.cmd = ETHTOOL_GDRVINFO;
-    ifreq request{};
-    std::memcpy(request.ifr_name, name.constData(), std::size_t(name.size()));
-    request.ifr_data = reinterpret_cast<char*>(&info);
-    const int result = ::ioctl(fd, SIOCETHTOOL, &request);
-    const int error = errno;
-    ::close(fd);
-    if (result < 0) {
+    if (const int error = ethtoolRequest(interfaceName, &info); error != 0) {
         qCDebug(lcNetwork) << "no driver info for" << interfaceName << std::strerror(error);
         return {};
     }

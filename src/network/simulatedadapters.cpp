@@ -43,6 +43,14 @@ QHostAddress addressOrNull(const QJsonValue& value)
                                                                                                : QHostAddress();
 }
 
+QList<QPair<QString, quint64>> countersFrom(const QJsonObject& json)
+{
+    QList<QPair<QString, quint64>> counters;
+    for (auto it = json.begin(); it != json.end(); ++it)
+        counters.append({it.key(), quint64(it.value().toDouble())});
+    return counters;
+}
+
 SimulatedAdapters::Adapter adapterFrom(const QJsonObject& json)
 {
     SimulatedAdapters::Adapter adapter;
@@ -59,6 +67,8 @@ SimulatedAdapters::Adapter adapterFrom(const QJsonObject& json)
     adapter.mtu = json.value(QLatin1String("mtu")).toInt();
     adapter.jumbo2k = json.value(QLatin1String("jumbo2k")).toBool(true);
     adapter.multicast = json.value(QLatin1String("multicastEnabled")).toBool(true);
+    adapter.statistics = countersFrom(json.value(QLatin1String("statistics")).toObject());
+    adapter.driverStatistics = countersFrom(json.value(QLatin1String("driverStatistics")).toObject());
     return adapter;
 }
 

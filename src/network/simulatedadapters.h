@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHostAddress>
 #include <QList>
+#include <QPair>
 #include <QString>
 
 #include <cstdint>
@@ -35,6 +36,10 @@ public:
         int mtu = 0;
         bool jumbo2k = true; // the driver sends 2 KB packets on it
         bool multicast = true;
+        // The adapter's traffic counters: the kernel's interface statistics
+        // and its driver's own, by name.
+        QList<QPair<QString, quint64>> statistics;
+        QList<QPair<QString, quint64>> driverStatistics;
     };
 
     // The driver's pvsim_GetState, when the process runs with the simulated

@@ -7,6 +7,7 @@
 #include "app/widgets/startup.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "camera/widgets/cameralist.h"
+#include "common/usersettings.h"
 #include "dialogs/widgets/multicastdialog.h"
 #include "driver/debugmask.h"
 #include "driver/driverconfiguration.h"
@@ -15,6 +16,9 @@
 #include "driver/widgets/flagsctrl.h"
 #include "driver/widgets/qdebugoutctrl.h"
 #include "driversettings/driverservicesettings.h"
+#include "camera/cameralistmodel.h"
+#include "dialogs/widgets/additionalcamerainfo.h"
+#include "dialogs/widgets/camerainfo.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "services/servicemanager.h"
@@ -32,6 +36,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTreeWidget>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -199,6 +205,45 @@ bool shootFirmwareUpload(QCirroCameramanager& window, const QDir& output)
     return ok;
 }
 
+// Every page of the camera information of a camera with all of them, one
+// calibration in progress.
+bool shootCameraInfo(QCirroCameramanager& window, const QDir& output)
+{
+    window.cameraList()->selectDevice(0);
+    CameraInfo dialog(*window.cameraList()->selectedCamera(), window.cameraList()->model()->cameraList(), &window);
+    if (dialog.prepare() != 0)
+        return false;
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    bool ok = true;
+    for (int i = 0; i < dialog.pages()->count(); ++i) {
+        dialog.pages()->setCurrentIndex(i);
+        ok = save(dialog, output, QStringLiteral("camerainfo-") + dialog.pages()->currentWidget()->objectName()) && ok;
+    }
+    dialog.findChild<QSpinBox*>(QStringLiteral("newId"))->setValue(10);
+    dialog.pages()->setCurrentIndex(0);
+    ok = save(dialog, output, QStringLiteral("camerainfo-id-in-use")) && ok;
+    dialog.pages()->setCurrentWidget(dialog.findChild<QWidget*>(QStringLiteral("fpnPage")));
+    dialog.findChild<QPushButton*>(QStringLiteral("startFpn"))->click();
+    QTest::qWait(2500);
+    ok = save(dialog, output, QStringLiteral("camerainfo-fpn-running")) && ok;
+    dialog.findChild<QPushButton*>(QStringLiteral("cancelFpn"))->click();
+    return ok;
+}
+
+bool shootAdditionalCameraInfo(QCirroCameramanager& window, const QDir& output, quint32 deviceId,
+                               const QString& name)
+{
+    window.cameraList()->selectDevice(deviceId);
+    AdditionalCameraInfo dialog(*window.cameraList()->selectedCamera(), &window);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    QTest::qWait(2200); // two refreshes
+    return save(dialog, output, name);
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -226,7 +271,7 @@ int main(int argc, char* argv[])
     }
     QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    QSettings(Identity::settingsOrganisation(), Identity::settingsApplication())
+    UserSettings::open()
         .setValue(QStringLiteral("mainWindow/selectedLanguage"), QStringLiteral("en"));
 
     QCirroCameramanager window;
@@ -254,6 +299,10 @@ int main(int argc, char* argv[])
     ok = shootDriverOutput(window, output) && ok;
     ok = shootMulticastDialog(window, output) && ok;
     ok = shootFirmwareUpload(window, output) && ok;
+    pvsim_SetTimeScale(1.0);
+    ok = shootCameraInfo(window, output) && ok;
+    ok = shootAdditionalCameraInfo(window, output, 0, QStringLiteral("additionalcamerainfo-usb")) && ok;
+    ok = shootAdditionalCameraInfo(window, output, 1005, QStringLiteral("additionalcamerainfo-gige")) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

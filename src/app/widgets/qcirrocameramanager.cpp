@@ -13,7 +13,10 @@
 #include "camera/statusassessment.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
+#include "common/usersettings.h"
 #include "details/widgets/deviceinfoview.h"
+#include "dialogs/widgets/additionalcamerainfo.h"
+#include "dialogs/widgets/camerainfo.h"
 #include "driver/widgets/additionalfunctions.h"
 #include "dialogs/firmwareupload.h"
 #include "dialogs/widgets/firmwareuploadprogress.h"
@@ -207,6 +210,10 @@ void QCirroCameramanager::registerCommands()
     m_commands->setHandler(Command::UploadFirmware, [this] { onUploadFirmware(); });
     m_commands->handleRequest(Command::AddReadOnlyDevice, m_cameraList, &CameraList::openMulticastSettings, this,
                               &QCirroCameramanager::onMulticastDialog);
+    m_commands->setHandler(Command::CameraInformation, [this] { OnCameraInfoDlg(); });
+    m_commands->handleRequest(Command::CameraInformation, m_cameraList, &CameraList::openCameraInfo, this,
+                              &QCirroCameramanager::openCameraInfoDialog);
+    m_commands->setHandler(Command::AdditionalCameraInformation, [this] { onAddCameraInfo(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -228,7 +235,7 @@ void QCirroCameramanager::fillLanguageSelector(const QString& directory)
     m_languageSelector->model()->sort(0, Qt::AscendingOrder);
     // The current item moved with the sort; show the first entry.
     m_languageSelector->setCurrentIndex(m_languageSelector->count() > 0 ? 0 : -1);
-    const QString stored = QSettings(Identity::settingsOrganisation(), Identity::settingsApplication())
+    const QString stored = UserSettings::open()
                                .value(settingsGroup + QStringLiteral("/selectedLanguage"),
                                       LanguageCatalog::defaultLanguage())
                                .toString();
@@ -349,6 +356,44 @@ void QCirroCameramanager::Printer(const QString& text, const QColor& textcolour,
 {
     if (m_messagesEnabled)
         m_statusPanel->print(text, textcolour, bShowProgress);
+}
+
+void QCirroCameramanager::OnCameraInfoDlg()
+{
+    if (const Camera* camera = currentCamera())
+        openCameraInfoDialog(*camera);
+}
+
+void QCirroCameramanager::openCameraInfoDialog(const Camera& camera)
+{
+    if (!ControlStates::qualifiesForCameraInformation(camera))
+        return;
+    CameraInfo dialog(camera, m_cameraList->model()->cameraList(), this);
+    if (dialog.prepare() != 0)
+        return;
+    m_dialogBusy = true;
+    m_cameraList->setAutoRefresh(false);
+    m_cameraList->setUpdatesSuspended(true);
+    dialog.exec();
+    m_cameraList->setUpdatesSuspended(false);
+    m_cameraList->setAutoRefresh(autoRefreshWanted());
+    m_dialogBusy = false;
+    updateDetails(false);
+}
+
+void QCirroCameramanager::onAddCameraInfo()
+{
+    const Camera* camera = currentCamera();
+    if (!camera || !ControlStates::qualifiesForAdditionalCameraInformation(*camera))
+        return;
+    AdditionalCameraInfo dialog(*camera, this);
+    dialog.exec();
+}
+
+bool QCirroCameramanager::autoRefreshWanted() const
+{
+    const QCheckBox* autoRefresh = m_controlArea->autoRefresh();
+    return autoRefresh->isEnabled() && autoRefresh->isChecked();
 }
 
 void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
@@ -537,7 +582,7 @@ void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)
 
 void QCirroCameramanager::restoreSettings()
 {
-    QSettings settings(Identity::settingsOrganisation(), Identity::settingsApplication());
+    QSettings settings(UserSettings::organisation(), UserSettings::application());
     settings.beginGroup(settingsGroup);
     restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     QCheckBox* expertMode = m_controlArea->expertMode();
@@ -551,7 +596,7 @@ void QCirroCameramanager::restoreSettings()
 
 void QCirroCameramanager::saveSettings() const
 {
-    QSettings settings(Identity::settingsOrganisation(), Identity::settingsApplication());
+    QSettings settings(UserSettings::organisation(), UserSettings::application());
     settings.beginGroup(settingsGroup);
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("checkExpert"), m_controlArea->expertMode()->isChecked());

@@ -68,6 +68,9 @@ public slots:
     void onCurrentCameraChanged(const camera::optional<Camera>& camera, bool force = false);
     void onCameraListChanged();
     void onDeviceInfoUpdateNeeded(bool force);
+    void OnCameraInfoDlg();
+    void openCameraInfoDialog(const Camera& camera);
+    void onAddCameraInfo();
     void onOpenCamera(const QList<Camera>& cameras);
     void onIdentifyCamera(const Camera& camera);
     void onManualEthConfig();
@@ -102,6 +105,7 @@ private:
     void closeUploadProgress();
     void reportVerifiedUpload(quint32 deviceId);
     const Camera* currentCamera() const;
+    bool autoRefreshWanted() const;
 
     CameraList* m_cameraList = nullptr;
     LanguageLoader m_languages;

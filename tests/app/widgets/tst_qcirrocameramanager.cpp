@@ -22,6 +22,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
+#include <QSpinBox>
+#include <QTimer>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -80,6 +82,8 @@ private slots:
     void firmwareUploadGivesTheCameraTheDriversStarter();
     void failingUploadIsReportedTwice();
     void closingTheWindowWaitsForTheUpload();
+    void cameraIdWrittenInTheDialogReachesTheList();
+    void failedCameraInformationShowsNothingMore();
     void deletingAReadOnlyDeviceRemovesIt();
     void readOnlyDeviceAddedFromTheListCanBeDeletedAgain();
     void automaticConfigurationRepairsACamera();
@@ -339,7 +343,7 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation", "cameraInformation", "createSupportFile"})
+    for (const char* name : {"generalInformation", "createSupportFile"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
@@ -348,9 +352,16 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
     const char* const gigeOnly[] = {"manualEthConfiguration", "automaticEthConfiguration", "uploadStarterFirmware"};
     for (const char* name : gigeOnly)
         QVERIFY2(child<QPushButton>(*window, name)->isEnabled(), name);
+    QVERIFY(child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "additionalCameraInfo")->isEnabled());
     select(*window, 0);
     for (const char* name : gigeOnly)
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
+    QVERIFY(child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    // In use elsewhere: no information dialogs.
+    select(*window, 3);
+    QVERIFY(!child<QPushButton>(*window, "cameraInformation")->isEnabled());
+    QVERIFY(!child<QPushButton>(*window, "additionalCameraInfo")->isEnabled());
 }
 
 void TestMainWindow::firmwareUploadGivesTheCameraTheDriversStarter()
@@ -448,6 +459,41 @@ void TestMainWindow::readOnlyDeviceAddedFromTheListCanBeDeletedAgain()
     menuEntry(*window, "&Delete")->trigger();
     QVERIFY(cameraState(deviceId).isEmpty());
     QTRY_VERIFY(!listedReadOnlyDevice(*window, 42));
+}
+
+void TestMainWindow::cameraIdWrittenInTheDialogReachesTheList()
+{
+    const auto window = makeWindow();
+    child<QCheckBox>(*window, "expertMode")->setChecked(true);
+    child<QCheckBox>(*window, "autoRefresh")->setChecked(true);
+    window->cameraList()->setAutoRefresh(true);
+    select(*window, 1);
+    bool refreshedMeanwhile = true;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog && dialog->objectName() == "cameraInfo");
+        refreshedMeanwhile = window->cameraList()->isAutoRefreshOn();
+        dialog->findChild<QSpinBox*>("newId")->setValue(99);
+        dialog->findChild<QPushButton*>("writeId")->click();
+        dialog->reject();
+    });
+    child<QPushButton>(*window, "cameraInformation")->click();
+    QVERIFY(!refreshedMeanwhile);
+    QVERIFY(window->cameraList()->isAutoRefreshOn());
+    QTRY_VERIFY(window->cameraList()->selectedCamera() && window->cameraList()->selectedCamera()->cameraId() == 99);
+    QVERIFY(!cameraState(1).value("open").toBool());
+}
+
+void TestMainWindow::failedCameraInformationShowsNothingMore()
+{
+    const auto window = makeWindow();
+    select(*window, 0);
+    MessageBoxAnswerer answerer(QMessageBox::Ok);
+    pvsim_FailOperation("pv_OpenCamera", PV_ERR_DEVICE_IN_USE, 1);
+    child<QPushButton>(*window, "cameraInformation")->click();
+    QCOMPARE(answerer.seen.size(), 1);
+    QVERIFY(answerer.seen.first().contains("107"));
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()
