@@ -332,6 +332,92 @@
     </message>
 </context>
 <context>
+    <name>AdapterStatisticsModel</name>
+    <message>
+        <location filename="../../src/dialogs/adapterstatisticsmodel.cpp" line="+71"/>
+        <source>driver: %1</source>
+        <translation>Treiber: %1</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>This counter grows when the adapter loses image data.</source>
+        <translation>Dieser Zähler steigt, wenn der Adapter Bilddaten verliert.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Change since opened</source>
+        <translation>Änderung seit dem Öffnen</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>(lost images)</source>
+        <translation>(verlorene Bilder)</translation>
+    </message>
+</context>
+<context>
+    <name>AdditionalCameraInfo</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/additionalcamerainfo.cpp" line="+24"/>
+        <source>Additional Camera Info</source>
+        <translation>Zusätzliche Kamerainfos</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; serial number %2, device ID %3</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; Seriennummer %2, Geräte-ID %3</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Copy as text</source>
+        <translation>Als Text kopieren</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Revision record</source>
+        <translation>Revisionsdaten</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Statistics of the network adapter %1</source>
+        <translation>Statistik des Netzwerkadapters %1</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Changes since this dialog opened; a red row is a counter of lost image data that has grown.</source>
+        <translation>Änderungen seit dem Öffnen dieses Dialogs; eine rote Zeile ist ein gestiegener Zähler für verlorene Bilddaten.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The network adapter %1 gives no statistics.</source>
+        <translation>Der Netzwerkadapter %1 liefert keine Statistik.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Network adapter %1</source>
+        <translation>Netzwerkadapter %1</translation>
+    </message>
+</context>
+<context>
     <name>AdditionalFunctions</name>
     <message>
         <location filename="../../src/driver/bootboost.cpp" line="+30"/>
@@ -719,6 +805,318 @@ Rückgabecode: %1</translation>
 Return code: %1</source>
         <translation>Der ETH-Dienst konnte nicht verbunden werden.
 Rückgabecode: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCall</name>
+    <message>
+        <location filename="../../src/dialogs/cameracall.cpp" line="+8"/>
+        <source>%1
+The function is not supported by the installed driver (return code: %2).</source>
+        <translation>%1
+Die Funktion wird vom installierten Treiber nicht unterstützt (Rückgabecode: %2).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1
+Return code: %2</source>
+        <translation>%1
+Rückgabecode: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1
+The camera accepted the value but reads back another one.</source>
+        <translation>%1
+Die Kamera hat den Wert angenommen, liest aber einen anderen zurück.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>not supported by the installed driver</source>
+        <translation>vom installierten Treiber nicht unterstützt</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/cameracall.h" line="+43"/>
+        <source>%1
+The value could not be read back.</source>
+        <translation>%1
+Der Wert konnte nicht zurückgelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>CameraIdAccess</name>
+    <message>
+        <location filename="../../src/dialogs/cameraidaccess.cpp" line="+8"/>
+        <source>The camera ID could not be read.</source>
+        <translation>Die Kamera-ID konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>A camera ID is a number from %1 to %2.</source>
+        <translation>Eine Kamera-ID ist eine Zahl von %1 bis %2.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The camera ID could not be written.</source>
+        <translation>Die Kamera-ID konnte nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfo</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+36"/>
+        <source>Camera information</source>
+        <translation>Kamerainformationen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; serial number %2, device ID %3</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; Seriennummer %2, Geräte-ID %3</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Camera %1 has no functions that this dialog offers.</source>
+        <translation>Kamera %1 hat keine der Funktionen, die dieser Dialog anbietet.</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoEepromPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoeeprompage.cpp" line="+26"/>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Hexadecimal:</source>
+        <translation>Hexadezimal:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Text:</source>
+        <translation>Text:</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <location line="+11"/>
+        <location line="+12"/>
+        <source>%1 of %2 bytes used</source>
+        <translation>%1 von %2 Byte belegt</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>The hexadecimal field holds no valid bytes.</source>
+        <translation>Das Hexadezimalfeld enthält keine gültigen Bytes.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The text may hold printable ASCII characters only.</source>
+        <translation>Der Text darf nur druckbare ASCII-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoeeprompage.h" line="+21"/>
+        <source>User EEPROM</source>
+        <translation>Benutzer-EEPROM</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoFpnPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfofpnpage.cpp" line="+20"/>
+        <source>Start calibration</source>
+        <translation>Kalibrierung starten</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset to factory calibration</source>
+        <translation>Auf Werkskalibrierung zurücksetzen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cover the lens before you start: the camera measures the noise of a dark image.</source>
+        <translation>Decken Sie das Objektiv ab, bevor Sie beginnen: Die Kamera misst das Rauschen eines dunklen Bildes.</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Calibrating...</source>
+        <translation>Kalibrierung läuft...</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Replace the camera&apos;s own calibration by the factory calibration?</source>
+        <translation>Die eigene Kalibrierung der Kamera durch die Werkskalibrierung ersetzen?</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfofpnpage.h" line="+25"/>
+        <source>FPN calibration</source>
+        <translation>FPN-Kalibrierung</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoIdPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoidpage.cpp" line="+24"/>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Current camera ID:</source>
+        <translation>Aktuelle Kamera-ID:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>New camera ID:</source>
+        <translation>Neue Kamera-ID:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The camera list shows the new ID as soon as the driver reports the change.</source>
+        <translation>Die Kameraliste zeigt die neue ID an, sobald der Treiber die Änderung meldet.</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Camera %1 in the list has the ID %2 already. Two cameras with the same ID can&apos;t be told apart by their ID.</source>
+        <translation>Kamera %1 in der Liste hat bereits die ID %2. Zwei Kameras mit derselben ID lassen sich über ihre ID nicht unterscheiden.</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoidpage.h" line="+23"/>
+        <source>Camera ID</source>
+        <translation>Kamera-ID</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoLensPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfolenspage.cpp" line="+24"/>
+        <source> dpt</source>
+        <translation> dpt</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Store as start-up value</source>
+        <translation>Als Startwert speichern</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Focal power:</source>
+        <translation>Brechkraft:</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Range of the lens: %1 to %2</source>
+        <translation>Bereich der Linse: %1 bis %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Start-up value: %1</source>
+        <translation>Startwert: %1</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfolenspage.h" line="+24"/>
+        <source>Liquid lens</source>
+        <translation>Flüssiglinse</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfopage.cpp" line="+31"/>
+        <source>Some functions of this page are %1.</source>
+        <translation>Einige Funktionen dieser Seite werden %1.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>This page is %1.</source>
+        <translation>Diese Seite wird %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoParameterPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoparameterpage.cpp" line="+25"/>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Make start-up set</source>
+        <translation>Als Startsatz festlegen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save current settings into this set</source>
+        <translation>Aktuelle Einstellungen in diesem Satz speichern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset to factory</source>
+        <translation>Auf Werkseinstellungen zurücksetzen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import...</source>
+        <translation>Importieren...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Set:</source>
+        <translation>Satz:</translation>
+    </message>
+    <message>
+        <location line="+56"/>
+        <source>Start-up set: %1</source>
+        <translation>Startsatz: %1</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Reset the camera&apos;s current settings and its start-up set to the factory defaults?</source>
+        <translation>Die aktuellen Einstellungen der Kamera und ihren Startsatz auf die Werkseinstellungen zurücksetzen?</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Parameter sets (*.ini)</source>
+        <translation>Parametersätze (*.ini)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Export parameter set</source>
+        <translation>Parametersatz exportieren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import parameter set</source>
+        <translation>Parametersatz importieren</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoparameterpage.h" line="+28"/>
+        <source>Parameter sets</source>
+        <translation>Parametersätze</translation>
     </message>
 </context>
 <context>
@@ -1546,6 +1944,50 @@ Rückgabecode: %1</translation>
     </message>
 </context>
 <context>
+    <name>DriverOutput</name>
+    <message>
+        <location filename="../../src/driver/driveroutput.cpp" line="+21"/>
+        <source>The simulated driver writes the trace lines of %1 to %2.</source>
+        <translation>Der simulierte Treiber schreibt die Trace-Zeilen von %1 in %2.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the trace file %1</source>
+        <translation>der Trace-Datei %1</translation>
+    </message>
+</context>
+<context>
+    <name>DriverOutputView</name>
+    <message>
+        <location filename="../../src/driver/widgets/driveroutputview.cpp" line="+17"/>
+        <source>Recent output of %1</source>
+        <translation>Letzte Ausgaben von %1</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Reading ...</source>
+        <translation>Wird gelesen ...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No lines in %1 yet. Switch categories on in the debug output mask and use the cameras.</source>
+        <translation>Noch keine Zeilen in %1. Schalten Sie Kategorien in der Debug-Ausgabemaske ein und verwenden Sie die Kameras.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>The last %n line(s) of %1, newest last:</source>
+        <translation>
+            <numerusform>Letzte %n Zeile aus %1, neueste zuletzt:</numerusform>
+            <numerusform>Letzte %n Zeilen aus %1, neueste zuletzt:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ElevatedRestart</name>
     <message>
         <location filename="../../src/common/elevatedrestart_linux.cpp" line="+68"/>
@@ -2065,6 +2507,41 @@ Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
     </message>
 </context>
 <context>
+    <name>FirmwareUpload</name>
+    <message>
+        <location filename="../../src/dialogs/firmwareupload.cpp" line="+57"/>
+        <source>The camera&apos;s firmware could not be read back after the upload. Return code: %1</source>
+        <translation>Die Firmware der Kamera konnte nach dem Hochladen nicht zurückgelesen werden. Rückgabecode: %1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>After the upload the camera runs starter firmware %1, but the driver carries %2.</source>
+        <translation>Nach dem Hochladen läuft auf der Kamera die Starter-Firmware %1, der Treiber enthält aber %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareUploadProgress</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/firmwareuploadprogress.cpp" line="+8"/>
+        <source>Uploading firmware...
+
+Please don&apos;t disconnect the device until this operation is completed.
+This may take up to %1 seconds.</source>
+        <translation>Firmware wird hochgeladen...
+
+Bitte trennen Sie das Gerät nicht, bevor dieser Vorgang abgeschlossen ist.
+Dies kann bis zu %1 Sekunden dauern.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+21"/>
+        <source>Elapsed: %n second(s)</source>
+        <translation>
+            <numerusform>Verstrichen: %n Sekunde</numerusform>
+            <numerusform>Verstrichen: %n Sekunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FlagsCtrl</name>
     <message>
         <location filename="../../src/driver/widgets/flagsctrl.cpp" line="+16"/>
@@ -2075,6 +2552,49 @@ Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
         <location line="+4"/>
         <source>Flags</source>
         <translation>Flags</translation>
+    </message>
+</context>
+<context>
+    <name>FpnCalibration</name>
+    <message>
+        <location filename="../../src/dialogs/fpncalibration.cpp" line="+12"/>
+        <source>The state of the FPN calibration could not be read.</source>
+        <translation>Der Zustand der FPN-Kalibrierung konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>The FPN calibration could not be started.</source>
+        <translation>Die FPN-Kalibrierung konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The FPN calibration could not be cancelled.</source>
+        <translation>Die FPN-Kalibrierung konnte nicht abgebrochen werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The factory FPN calibration could not be restored.</source>
+        <translation>Die FPN-Werkskalibrierung konnte nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Calibrated on the camera on %1, residual noise %2 DN.</source>
+        <translation>Am %1 auf der Kamera kalibriert, Restrauschen %2 DN.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Factory calibration of %1, residual noise %2 DN.</source>
+        <translation>Werkskalibrierung vom %1, Restrauschen %2 DN.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The last calibration was cancelled; the calibration in use stayed.</source>
+        <translation>Die letzte Kalibrierung wurde abgebrochen; die verwendete Kalibrierung bleibt erhalten.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The last calibration failed (return code: %1).</source>
+        <translation>Die letzte Kalibrierung ist fehlgeschlagen (Rückgabecode: %1).</translation>
     </message>
 </context>
 <context>
@@ -2109,6 +2629,67 @@ Bitte stellen Sie die Paketgröße auf mindestens 2 KB ein.</translation>
         <location line="+4"/>
         <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
         <translation>Die ARP-Anfrage nach %1 am Netzwerkadapter %2 ist fehlgeschlagen: %3</translation>
+    </message>
+</context>
+<context>
+    <name>HostCommand</name>
+    <message>
+        <location filename="../../src/driver/hostcommand.cpp" line="+30"/>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 can&apos;t be started: %2</source>
+        <translation>%1 kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 did not answer in time</source>
+        <translation>%1 hat nicht rechtzeitig geantwortet</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 ended abnormally</source>
+        <translation>%1 wurde abnormal beendet</translation>
+    </message>
+</context>
+<context>
+    <name>HostDriverLog</name>
+    <message>
+        <location filename="../../src/driver/hostdriverlog_linux.cpp" line="+34"/>
+        <source>%1 ended with code %2</source>
+        <translation>%1 wurde mit Code %2 beendet</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>The driver %1 writes to the journal of its service %2 and to the kernel log.</source>
+        <translation>Der Treiber %1 schreibt in das Journal seines Dienstes %2 und in das Kernel-Log.</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>the journal of %1</source>
+        <translation>dem Journal von %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The journal can&apos;t be read: %1</source>
+        <translation>Das Journal kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>the kernel log</source>
+        <translation>dem Kernel-Log</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The kernel log can&apos;t be read: %1</source>
+        <translation>Das Kernel-Log kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source> and </source>
+        <translation> und </translation>
     </message>
 </context>
 <context>
@@ -2184,6 +2765,115 @@ Fehlercode: %2</translation>
     </message>
 </context>
 <context>
+    <name>LiquidLens</name>
+    <message>
+        <location filename="../../src/dialogs/liquidlens.cpp" line="+8"/>
+        <source>The liquid lens could not be read.</source>
+        <translation>Die Flüssiglinse konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The lens takes focal powers from %1 to %2.</source>
+        <translation>Die Linse unterstützt Brechkräfte von %1 bis %2.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The focal power could not be set.</source>
+        <translation>Die Brechkraft konnte nicht eingestellt werden.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The focal power could not be stored as start-up value.</source>
+        <translation>Die Brechkraft konnte nicht als Startwert gespeichert werden.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 dpt</source>
+        <translation>%1 dpt</translation>
+    </message>
+</context>
+<context>
+    <name>MaintenanceCapabilities</name>
+    <message>
+        <location filename="../../src/dialogs/maintenancecapabilities.cpp" line="+14"/>
+        <source>The camera&apos;s functions could not be read.</source>
+        <translation>Die Funktionen der Kamera konnten nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>MulticastDialog</name>
+    <message>
+        <location filename="../../src/dialogs/readonlydevicerequest.cpp" line="+48"/>
+        <source>Something went wrong</source>
+        <translation>Etwas ist schiefgelaufen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Invalid Parameter</source>
+        <translation>Ungültiger Parameter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Needs more ram</source>
+        <translation>Benötigt mehr RAM</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Maybe not supported for this camera</source>
+        <translation>Wird von dieser Kamera möglicherweise nicht unterstützt</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/multicastdialog.cpp" line="+19"/>
+        <source>Add multicast</source>
+        <translation>Multicast hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Refuse incomplete Images</source>
+        <translation>Unvollständige Bilder verwerfen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ignore image errors</source>
+        <translation>Bildfehler ignorieren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Merge Mode - Release on complete</source>
+        <translation>Zusammenführungsmodus - Freigabe bei Vollständigkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Merge Mode - Release on new image</source>
+        <translation>Zusammenführungsmodus - Freigabe bei neuem Bild</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Camera ID:</source>
+        <translation>Kamera-ID:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error handling:</source>
+        <translation>Fehlerbehandlung:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Add read-only Device</source>
+        <translation>Schreibgeschütztes Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Errorcode: %1</source>
+        <translation>Fehlercode: %1</translation>
+    </message>
+</context>
+<context>
     <name>NetworkFailure</name>
     <message>
         <location filename="../../src/network/networkfailure.cpp" line="+5"/>
@@ -2205,9 +2895,115 @@ Fehlercode: %2</translation>
     </message>
 </context>
 <context>
+    <name>OpenedCamera</name>
+    <message>
+        <location filename="../../src/dialogs/openedcamera.cpp" line="+12"/>
+        <source>Camera %1 could not be opened.</source>
+        <translation>Kamera %1 konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSetFile</name>
+    <message>
+        <location filename="../../src/dialogs/parametersetfile.cpp" line="+39"/>
+        <source>The file &quot;%1&quot; could not be written: %2</source>
+        <translation>Die Datei „%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The file is incomplete: it ends before its checksum.</source>
+        <translation>Die Datei ist unvollständig: Sie endet vor ihrer Prüfsumme.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The file is no parameter set file (line %1: %2).</source>
+        <translation>Die Datei ist keine Parametersatzdatei (Zeile %1: %2).</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The file is damaged or incomplete: its checksum does not match its content.</source>
+        <translation>Die Datei ist beschädigt oder unvollständig: Ihre Prüfsumme passt nicht zu ihrem Inhalt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The file holds a parameter set of the model &quot;%1&quot;; this camera is a %2.</source>
+        <translation>Die Datei enthält einen Parametersatz des Modells „%1“; diese Kamera ist eine %2.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The file holds %1 values; the camera has %2.</source>
+        <translation>Die Datei enthält %1 Werte; die Kamera hat %2.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The file has no valid value for &quot;%1&quot;.</source>
+        <translation>Die Datei hat keinen gültigen Wert für „%1“.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The file &quot;%1&quot; could not be read: %2</source>
+        <translation>Die Datei „%1“ konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The file &quot;%1&quot; is too large for a parameter set.</source>
+        <translation>Die Datei „%1“ ist zu groß für einen Parametersatz.</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSets</name>
+    <message>
+        <location filename="../../src/dialogs/parameterset.cpp" line="+53"/>
+        <source>Factory default</source>
+        <translation>Werkseinstellung</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>User set %1</source>
+        <translation>Benutzersatz %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The parameter set &quot;%1&quot; could not be read.</source>
+        <translation>Der Parametersatz „%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The parameter set &quot;%1&quot; could not be written.</source>
+        <translation>Der Parametersatz „%1“ konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1
+It has too many values or too long names.</source>
+        <translation>%1
+Er hat zu viele Werte oder zu lange Namen.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The start-up set could not be read.</source>
+        <translation>Der Startsatz konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&quot;%1&quot; could not be made the start-up set.</source>
+        <translation>„%1“ konnte nicht als Startsatz festgelegt werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The current settings could not be saved into &quot;%1&quot;.</source>
+        <translation>Die aktuellen Einstellungen konnten nicht in „%1“ gespeichert werden.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The camera could not be reset to its factory settings.</source>
+        <translation>Die Kamera konnte nicht auf ihre Werkseinstellungen zurückgesetzt werden.</translation>
+    </message>
+</context>
+<context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+239"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+253"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -2232,7 +3028,7 @@ Fehlercode: %2</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location line="+122"/>
+        <location line="+160"/>
         <source>Open eth configuration...</source>
         <translation>ETH-Konfiguration wird geöffnet...</translation>
     </message>
@@ -2268,7 +3064,38 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Automatische Konfiguration und Boot Boost sind nicht kompatibel!</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+37"/>
+        <source>Firmware upload in progress ...</source>
+        <translation>Firmware wird hochgeladen ...</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+13"/>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Firmware upload error! Return code: %1</source>
+        <translation>Fehler beim Hochladen der Firmware! Rückgabecode: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Firmware upload error! %1</source>
+        <translation>Fehler beim Hochladen der Firmware! %1</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Firmware upload successful!</source>
+        <translation>Firmware erfolgreich hochgeladen!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device %1: firmware upload successful. The camera now runs starter firmware %2.</source>
+        <translation>Gerät %1: Firmware erfolgreich hochgeladen. Auf der Kamera läuft jetzt die Starter-Firmware %2.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>
@@ -2276,12 +3103,12 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
 <context>
     <name>QDebugOutCtrl</name>
     <message>
-        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+23"/>
+        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+27"/>
         <source>Debug output</source>
         <translation>Debug-Ausgabe</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+18"/>
         <source>Device type</source>
         <translation>Gerätetyp</translation>
     </message>
@@ -2322,7 +3149,17 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Bit %1</translation>
     </message>
     <message>
-        <location line="+56"/>
+        <location line="+11"/>
+        <source>Driver output</source>
+        <translation>Treiberausgabe</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Show recent output</source>
+        <translation>Letzte Ausgaben anzeigen</translation>
+    </message>
+    <message>
+        <location line="+63"/>
         <source>Permission error</source>
         <translation>Berechtigungsfehler</translation>
     </message>
@@ -2335,6 +3172,11 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <location line="+4"/>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
     <message>
         <location filename="../../api/driversettings/debugcategories.cpp" line="+11"/>
@@ -2642,6 +3484,104 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
     </message>
 </context>
 <context>
+    <name>RevisionRecord</name>
+    <message>
+        <location filename="../../src/dialogs/revisionrecord.cpp" line="+17"/>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date of quality check</source>
+        <translation>Datum der Qualitätsprüfung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manufacturer</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sensor hardware revision</source>
+        <translation>Hardware-Revision des Sensors</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB controller</source>
+        <translation>USB-Controller</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DSP firmware</source>
+        <translation>DSP-Firmware</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB board</source>
+        <translation>USB-Platine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sensor board</source>
+        <translation>Sensorplatine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Processing board</source>
+        <translation>Verarbeitungsplatine</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memory board</source>
+        <translation>Speicherplatine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Housing</source>
+        <translation>Gehäuse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Timing board</source>
+        <translation>Timing-Platine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Product revision</source>
+        <translation>Produktrevision</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Logic board</source>
+        <translation>Logikplatine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Power board</source>
+        <translation>Netzteilplatine</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The camera&apos;s revision record could not be read.</source>
+        <translation>Die Revisionsdaten der Kamera konnten nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>ServiceManager</name>
     <message>
         <location filename="../../src/services/servicemanager.cpp" line="+27"/>
@@ -2714,7 +3654,7 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
 <context>
     <name>SimulatedAdapters</name>
     <message>
-        <location filename="../../src/network/simulatedadapters.cpp" line="+108"/>
+        <location filename="../../src/network/simulatedadapters.cpp" line="+118"/>
         <source>Simulated GigE adapter</source>
         <translation>Simulierter GigE-Adapter</translation>
     </message>
@@ -2894,6 +3834,20 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
     </message>
 </context>
 <context>
+    <name>TraceFileTail</name>
+    <message>
+        <location filename="../../src/driver/tracefiletail.cpp" line="+17"/>
+        <source>There is no trace file %1 yet.</source>
+        <translation>Es gibt noch keine Trace-Datei %1.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <location line="+10"/>
+        <source>The trace file %1 can&apos;t be read: %2</source>
+        <translation>Die Trace-Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>UsbTopology</name>
     <message>
         <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
@@ -2909,6 +3863,39 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
         <location line="+160"/>
         <source>unkown</source>
         <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>UserEeprom</name>
+    <message>
+        <location filename="../../src/dialogs/usereeprom.cpp" line="+31"/>
+        <source>&quot;%1&quot; at position %2 is no hexadecimal digit.</source>
+        <translation>„%1“ an Position %2 ist keine Hexadezimalziffer.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Each byte needs two hexadecimal digits; the last one has only one.</source>
+        <translation>Jedes Byte benötigt zwei Hexadezimalziffern; das letzte hat nur eine.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>The text may hold printable ASCII characters only; &quot;%1&quot; at position %2 is none.</source>
+        <translation>Der Text darf nur druckbare ASCII-Zeichen enthalten; „%1“ an Position %2 ist keines.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The user EEPROM holds %1 bytes; %2 bytes don&apos;t fit. Nothing was written.</source>
+        <translation>Das Benutzer-EEPROM fasst %1 Byte; %2 Byte passen nicht hinein. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The user EEPROM could not be read.</source>
+        <translation>Das Benutzer-EEPROM konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The user EEPROM could not be written.</source>
+        <translation>Das Benutzer-EEPROM konnte nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>

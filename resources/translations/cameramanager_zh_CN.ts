@@ -332,6 +332,92 @@
     </message>
 </context>
 <context>
+    <name>AdapterStatisticsModel</name>
+    <message>
+        <location filename="../../src/dialogs/adapterstatisticsmodel.cpp" line="+71"/>
+        <source>driver: %1</source>
+        <translation>驱动程序：%1</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>This counter grows when the adapter loses image data.</source>
+        <translation>适配器丢失图像数据时，此计数器会增加。</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Counter</source>
+        <translation>计数器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Change since opened</source>
+        <translation>打开以来的变化</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>(lost images)</source>
+        <translation>（丢失的图像）</translation>
+    </message>
+</context>
+<context>
+    <name>AdditionalCameraInfo</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/additionalcamerainfo.cpp" line="+24"/>
+        <source>Additional Camera Info</source>
+        <translation>附加相机信息</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; serial number %2, device ID %3</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; 序列号 %2，设备 ID %3</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Copy as text</source>
+        <translation>复制为文本</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Revision record</source>
+        <translation>修订记录</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Statistics of the network adapter %1</source>
+        <translation>网络适配器 %1 的统计信息</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Changes since this dialog opened; a red row is a counter of lost image data that has grown.</source>
+        <translation>自此对话框打开以来的变化；红色行表示丢失图像数据的计数器已增加。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The network adapter %1 gives no statistics.</source>
+        <translation>网络适配器 %1 不提供统计信息。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Network adapter %1</source>
+        <translation>网络适配器 %1</translation>
+    </message>
+</context>
+<context>
     <name>AdditionalFunctions</name>
     <message>
         <location filename="../../src/driver/bootboost.cpp" line="+30"/>
@@ -719,6 +805,318 @@ Return code: %1</source>
 Return code: %1</source>
         <translation>无法连接 ETH 服务。
 返回代码：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCall</name>
+    <message>
+        <location filename="../../src/dialogs/cameracall.cpp" line="+8"/>
+        <source>%1
+The function is not supported by the installed driver (return code: %2).</source>
+        <translation>%1
+已安装的驱动程序不支持此功能（返回代码：%2）。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1
+Return code: %2</source>
+        <translation>%1
+返回代码：%2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1
+The camera accepted the value but reads back another one.</source>
+        <translation>%1
+相机接受了该值，但读回的是另一个值。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>not supported by the installed driver</source>
+        <translation>不受已安装的驱动程序支持</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/cameracall.h" line="+43"/>
+        <source>%1
+The value could not be read back.</source>
+        <translation>%1
+无法读回该值。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraIdAccess</name>
+    <message>
+        <location filename="../../src/dialogs/cameraidaccess.cpp" line="+8"/>
+        <source>The camera ID could not be read.</source>
+        <translation>无法读取相机 ID。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>A camera ID is a number from %1 to %2.</source>
+        <translation>相机 ID 是 %1 到 %2 之间的数字。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The camera ID could not be written.</source>
+        <translation>无法写入相机 ID。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfo</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+36"/>
+        <source>Camera information</source>
+        <translation>相机信息</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; serial number %2, device ID %3</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt; &amp;nbsp; 序列号 %2，设备 ID %3</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Camera %1 has no functions that this dialog offers.</source>
+        <translation>相机 %1 不具备此对话框提供的任何功能。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoEepromPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoeeprompage.cpp" line="+26"/>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Hexadecimal:</source>
+        <translation>十六进制：</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Text:</source>
+        <translation>文本：</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <location line="+11"/>
+        <location line="+12"/>
+        <source>%1 of %2 bytes used</source>
+        <translation>已使用 %1 字节（共 %2 字节）</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>The hexadecimal field holds no valid bytes.</source>
+        <translation>十六进制字段不包含有效字节。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The text may hold printable ASCII characters only.</source>
+        <translation>文本只能包含可打印的 ASCII 字符。</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoeeprompage.h" line="+21"/>
+        <source>User EEPROM</source>
+        <translation>用户 EEPROM</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoFpnPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfofpnpage.cpp" line="+20"/>
+        <source>Start calibration</source>
+        <translation>开始校准</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reset to factory calibration</source>
+        <translation>恢复为出厂校准</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Cover the lens before you start: the camera measures the noise of a dark image.</source>
+        <translation>开始前请遮住镜头：相机将测量暗图像的噪声。</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Calibrating...</source>
+        <translation>正在校准...</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Replace the camera&apos;s own calibration by the factory calibration?</source>
+        <translation>是否用出厂校准替换相机自身的校准？</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfofpnpage.h" line="+25"/>
+        <source>FPN calibration</source>
+        <translation>FPN 校准</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoIdPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoidpage.cpp" line="+24"/>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Current camera ID:</source>
+        <translation>当前相机 ID：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>New camera ID:</source>
+        <translation>新相机 ID：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The camera list shows the new ID as soon as the driver reports the change.</source>
+        <translation>驱动程序报告更改后，相机列表将立即显示新 ID。</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Camera %1 in the list has the ID %2 already. Two cameras with the same ID can&apos;t be told apart by their ID.</source>
+        <translation>列表中的相机 %1 已使用 ID %2。ID 相同的两台相机无法通过 ID 区分。</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoidpage.h" line="+23"/>
+        <source>Camera ID</source>
+        <translation>相机 ID</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoLensPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfolenspage.cpp" line="+24"/>
+        <source> dpt</source>
+        <translation> dpt</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Store as start-up value</source>
+        <translation>保存为启动值</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Focal power:</source>
+        <translation>光焦度：</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Range of the lens: %1 to %2</source>
+        <translation>镜头范围：%1 至 %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Start-up value: %1</source>
+        <translation>启动值：%1</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfolenspage.h" line="+24"/>
+        <source>Liquid lens</source>
+        <translation>液体镜头</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfopage.cpp" line="+31"/>
+        <source>Some functions of this page are %1.</source>
+        <translation>此页面的部分功能%1。</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>This page is %1.</source>
+        <translation>此页面%1。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInfoParameterPage</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoparameterpage.cpp" line="+25"/>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Make start-up set</source>
+        <translation>设为启动参数集</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save current settings into this set</source>
+        <translation>将当前设置保存到此参数集</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset to factory</source>
+        <translation>恢复出厂设置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Export...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import...</source>
+        <translation>导入...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Set:</source>
+        <translation>参数集：</translation>
+    </message>
+    <message>
+        <location line="+56"/>
+        <source>Start-up set: %1</source>
+        <translation>启动参数集：%1</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Reset the camera&apos;s current settings and its start-up set to the factory defaults?</source>
+        <translation>是否将相机的当前设置及其启动参数集恢复为出厂默认值？</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Parameter sets (*.ini)</source>
+        <translation>参数集 (*.ini)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Export parameter set</source>
+        <translation>导出参数集</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import parameter set</source>
+        <translation>导入参数集</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/camerainfoparameterpage.h" line="+28"/>
+        <source>Parameter sets</source>
+        <translation>参数集</translation>
     </message>
 </context>
 <context>
@@ -1546,6 +1944,49 @@ Return code: %1</source>
     </message>
 </context>
 <context>
+    <name>DriverOutput</name>
+    <message>
+        <location filename="../../src/driver/driveroutput.cpp" line="+21"/>
+        <source>The simulated driver writes the trace lines of %1 to %2.</source>
+        <translation>模拟驱动程序将 %1 的跟踪行写入 %2。</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the trace file %1</source>
+        <translation>跟踪文件 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DriverOutputView</name>
+    <message>
+        <location filename="../../src/driver/widgets/driveroutputview.cpp" line="+17"/>
+        <source>Recent output of %1</source>
+        <translation>%1 的最近输出</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Reading ...</source>
+        <translation>正在读取 ...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No lines in %1 yet. Switch categories on in the debug output mask and use the cameras.</source>
+        <translation>%1 中尚无任何行。请在调试输出掩码中启用类别并使用相机。</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>The last %n line(s) of %1, newest last:</source>
+        <translation>
+            <numerusform>%1 的最后 %n 行，最新的在最后：</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ElevatedRestart</name>
     <message>
         <location filename="../../src/common/elevatedrestart_linux.cpp" line="+68"/>
@@ -2065,6 +2506,40 @@ Please set the packet size to at least 2 KB.</source>
     </message>
 </context>
 <context>
+    <name>FirmwareUpload</name>
+    <message>
+        <location filename="../../src/dialogs/firmwareupload.cpp" line="+57"/>
+        <source>The camera&apos;s firmware could not be read back after the upload. Return code: %1</source>
+        <translation>上传后无法读回相机的固件。返回代码：%1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>After the upload the camera runs starter firmware %1, but the driver carries %2.</source>
+        <translation>上传后相机运行的是启动固件 %1，但驱动程序附带的是 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareUploadProgress</name>
+    <message>
+        <location filename="../../src/dialogs/widgets/firmwareuploadprogress.cpp" line="+8"/>
+        <source>Uploading firmware...
+
+Please don&apos;t disconnect the device until this operation is completed.
+This may take up to %1 seconds.</source>
+        <translation>正在上传固件...
+
+在此操作完成之前，请勿断开设备连接。
+这最多可能需要 %1 秒。</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+21"/>
+        <source>Elapsed: %n second(s)</source>
+        <translation>
+            <numerusform>已用时间：%n 秒</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FlagsCtrl</name>
     <message>
         <location filename="../../src/driver/widgets/flagsctrl.cpp" line="+16"/>
@@ -2075,6 +2550,49 @@ Please set the packet size to at least 2 KB.</source>
         <location line="+4"/>
         <source>Flags</source>
         <translation>标志</translation>
+    </message>
+</context>
+<context>
+    <name>FpnCalibration</name>
+    <message>
+        <location filename="../../src/dialogs/fpncalibration.cpp" line="+12"/>
+        <source>The state of the FPN calibration could not be read.</source>
+        <translation>无法读取 FPN 校准的状态。</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>The FPN calibration could not be started.</source>
+        <translation>无法启动 FPN 校准。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The FPN calibration could not be cancelled.</source>
+        <translation>无法取消 FPN 校准。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The factory FPN calibration could not be restored.</source>
+        <translation>无法恢复出厂 FPN 校准。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Calibrated on the camera on %1, residual noise %2 DN.</source>
+        <translation>于 %1 在相机上校准，残余噪声 %2 DN。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Factory calibration of %1, residual noise %2 DN.</source>
+        <translation>%1 的出厂校准，残余噪声 %2 DN。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The last calibration was cancelled; the calibration in use stayed.</source>
+        <translation>上次校准已取消；当前使用的校准保持不变。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The last calibration failed (return code: %1).</source>
+        <translation>上次校准失败（返回代码：%1）。</translation>
     </message>
 </context>
 <context>
@@ -2109,6 +2627,67 @@ Please set the packet size to at least 2 KB.</source>
         <location line="+4"/>
         <source>The ARP request for %1 on the network adapter %2 failed: %3</source>
         <translation>在网络适配器 %2 上对 %1 的 ARP 请求失败：%3</translation>
+    </message>
+</context>
+<context>
+    <name>HostCommand</name>
+    <message>
+        <location filename="../../src/driver/hostcommand.cpp" line="+30"/>
+        <source>%1 is not installed</source>
+        <translation>%1 未安装</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 can&apos;t be started: %2</source>
+        <translation>无法启动 %1：%2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 did not answer in time</source>
+        <translation>%1 未及时响应</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 ended abnormally</source>
+        <translation>%1 异常结束</translation>
+    </message>
+</context>
+<context>
+    <name>HostDriverLog</name>
+    <message>
+        <location filename="../../src/driver/hostdriverlog_linux.cpp" line="+34"/>
+        <source>%1 ended with code %2</source>
+        <translation>%1 已结束，代码 %2</translation>
+    </message>
+    <message>
+        <location line="+55"/>
+        <source>The driver %1 writes to the journal of its service %2 and to the kernel log.</source>
+        <translation>驱动程序 %1 会写入其服务 %2 的 journal 日志和内核日志。</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>the journal of %1</source>
+        <translation>%1 的 journal 日志</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The journal can&apos;t be read: %1</source>
+        <translation>无法读取 journal 日志：%1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>the kernel log</source>
+        <translation>内核日志</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The kernel log can&apos;t be read: %1</source>
+        <translation>无法读取内核日志：%1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source> and </source>
+        <translation>和</translation>
     </message>
 </context>
 <context>
@@ -2184,6 +2763,115 @@ Errorcode: %2</source>
     </message>
 </context>
 <context>
+    <name>LiquidLens</name>
+    <message>
+        <location filename="../../src/dialogs/liquidlens.cpp" line="+8"/>
+        <source>The liquid lens could not be read.</source>
+        <translation>无法读取液体镜头。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The lens takes focal powers from %1 to %2.</source>
+        <translation>该镜头支持 %1 到 %2 的光焦度。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The focal power could not be set.</source>
+        <translation>无法设置光焦度。</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The focal power could not be stored as start-up value.</source>
+        <translation>无法将光焦度保存为启动值。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 dpt</source>
+        <translation>%1 dpt</translation>
+    </message>
+</context>
+<context>
+    <name>MaintenanceCapabilities</name>
+    <message>
+        <location filename="../../src/dialogs/maintenancecapabilities.cpp" line="+14"/>
+        <source>The camera&apos;s functions could not be read.</source>
+        <translation>无法读取相机的功能。</translation>
+    </message>
+</context>
+<context>
+    <name>MulticastDialog</name>
+    <message>
+        <location filename="../../src/dialogs/readonlydevicerequest.cpp" line="+48"/>
+        <source>Something went wrong</source>
+        <translation>出现错误</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Invalid Parameter</source>
+        <translation>无效参数</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Needs more ram</source>
+        <translation>需要更多内存</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Maybe not supported for this camera</source>
+        <translation>此相机可能不支持</translation>
+    </message>
+    <message>
+        <location filename="../../src/dialogs/widgets/multicastdialog.cpp" line="+19"/>
+        <source>Add multicast</source>
+        <translation>添加组播</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Refuse incomplete Images</source>
+        <translation>拒绝不完整的图像</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ignore image errors</source>
+        <translation>忽略图像错误</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Merge Mode - Release on complete</source>
+        <translation>合并模式 - 完整时释放</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Merge Mode - Release on new image</source>
+        <translation>合并模式 - 新图像时释放</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Camera ID:</source>
+        <translation>相机 ID：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Error handling:</source>
+        <translation>错误处理：</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Add read-only Device</source>
+        <translation>添加只读设备</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Errorcode: %1</source>
+        <translation>错误代码：%1</translation>
+    </message>
+</context>
+<context>
     <name>NetworkFailure</name>
     <message>
         <location filename="../../src/network/networkfailure.cpp" line="+5"/>
@@ -2205,9 +2893,115 @@ Errorcode: %2</source>
     </message>
 </context>
 <context>
+    <name>OpenedCamera</name>
+    <message>
+        <location filename="../../src/dialogs/openedcamera.cpp" line="+12"/>
+        <source>Camera %1 could not be opened.</source>
+        <translation>无法打开相机 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSetFile</name>
+    <message>
+        <location filename="../../src/dialogs/parametersetfile.cpp" line="+39"/>
+        <source>The file &quot;%1&quot; could not be written: %2</source>
+        <translation>无法写入文件“%1”：%2</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The file is incomplete: it ends before its checksum.</source>
+        <translation>文件不完整：在校验和之前就已结束。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The file is no parameter set file (line %1: %2).</source>
+        <translation>该文件不是参数集文件（第 %1 行：%2）。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The file is damaged or incomplete: its checksum does not match its content.</source>
+        <translation>文件已损坏或不完整：其校验和与内容不匹配。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The file holds a parameter set of the model &quot;%1&quot;; this camera is a %2.</source>
+        <translation>该文件包含型号“%1”的参数集；此相机是 %2。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The file holds %1 values; the camera has %2.</source>
+        <translation>该文件包含 %1 个值；相机有 %2 个。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The file has no valid value for &quot;%1&quot;.</source>
+        <translation>该文件没有“%1”的有效值。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The file &quot;%1&quot; could not be read: %2</source>
+        <translation>无法读取文件“%1”：%2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The file &quot;%1&quot; is too large for a parameter set.</source>
+        <translation>文件“%1”太大，不能作为参数集。</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterSets</name>
+    <message>
+        <location filename="../../src/dialogs/parameterset.cpp" line="+53"/>
+        <source>Factory default</source>
+        <translation>出厂默认</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>User set %1</source>
+        <translation>用户参数集 %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The parameter set &quot;%1&quot; could not be read.</source>
+        <translation>无法读取参数集“%1”。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The parameter set &quot;%1&quot; could not be written.</source>
+        <translation>无法写入参数集“%1”。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1
+It has too many values or too long names.</source>
+        <translation>%1
+其值过多或名称过长。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The start-up set could not be read.</source>
+        <translation>无法读取启动参数集。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>&quot;%1&quot; could not be made the start-up set.</source>
+        <translation>无法将“%1”设为启动参数集。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The current settings could not be saved into &quot;%1&quot;.</source>
+        <translation>无法将当前设置保存到“%1”。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The camera could not be reset to its factory settings.</source>
+        <translation>无法将相机恢复为出厂设置。</translation>
+    </message>
+</context>
+<context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+239"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+253"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -2232,7 +3026,7 @@ Errorcode: %2</source>
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location line="+122"/>
+        <location line="+160"/>
         <source>Open eth configuration...</source>
         <translation>正在打开 ETH 配置...</translation>
     </message>
@@ -2268,7 +3062,38 @@ This operation may take up to 10 seconds.</source>
         <translation>自动配置与 Boot boost 不兼容！</translation>
     </message>
     <message>
-        <location line="+32"/>
+        <location line="+37"/>
+        <source>Firmware upload in progress ...</source>
+        <translation>正在上传固件 ...</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+13"/>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>Firmware upload error! Return code: %1</source>
+        <translation>固件上传出错！返回代码：%1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Firmware upload error! %1</source>
+        <translation>固件上传出错！%1</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Firmware upload successful!</source>
+        <translation>固件上传成功！</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Device %1: firmware upload successful. The camera now runs starter firmware %2.</source>
+        <translation>设备 %1：固件上传成功。相机现在运行启动固件 %2。</translation>
+    </message>
+    <message>
+        <location line="+25"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
@@ -2276,12 +3101,12 @@ This operation may take up to 10 seconds.</source>
 <context>
     <name>QDebugOutCtrl</name>
     <message>
-        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+23"/>
+        <location filename="../../src/driver/widgets/qdebugoutctrl.cpp" line="+27"/>
         <source>Debug output</source>
         <translation>调试输出</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+18"/>
         <source>Device type</source>
         <translation>设备类型</translation>
     </message>
@@ -2322,7 +3147,17 @@ This operation may take up to 10 seconds.</source>
         <translation>位 %1</translation>
     </message>
     <message>
-        <location line="+56"/>
+        <location line="+11"/>
+        <source>Driver output</source>
+        <translation>驱动程序输出</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Show recent output</source>
+        <translation>显示最近输出</translation>
+    </message>
+    <message>
+        <location line="+63"/>
         <source>Permission error</source>
         <translation>权限错误</translation>
     </message>
@@ -2335,6 +3170,11 @@ This operation may take up to 10 seconds.</source>
         <location line="+4"/>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <location filename="../../api/driversettings/debugcategories.cpp" line="+11"/>
@@ -2642,6 +3482,104 @@ This operation may take up to 10 seconds.</source>
     </message>
 </context>
 <context>
+    <name>RevisionRecord</name>
+    <message>
+        <location filename="../../src/dialogs/revisionrecord.cpp" line="+17"/>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date of quality check</source>
+        <translation>质检日期</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Manufacturer</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sensor hardware revision</source>
+        <translation>传感器硬件版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>USB controller</source>
+        <translation>USB 控制器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Processor</source>
+        <translation>处理器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DSP firmware</source>
+        <translation>DSP 固件</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB board</source>
+        <translation>USB 板</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sensor board</source>
+        <translation>传感器板</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Processing board</source>
+        <translation>处理板</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memory board</source>
+        <translation>存储板</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Housing</source>
+        <translation>外壳</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Filter</source>
+        <translation>滤光片</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Timing board</source>
+        <translation>时序板</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Product revision</source>
+        <translation>产品版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Logic board</source>
+        <translation>逻辑板</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Power board</source>
+        <translation>电源板</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The camera&apos;s revision record could not be read.</source>
+        <translation>无法读取相机的修订记录。</translation>
+    </message>
+</context>
+<context>
     <name>ServiceManager</name>
     <message>
         <location filename="../../src/services/servicemanager.cpp" line="+27"/>
@@ -2714,7 +3652,7 @@ This operation may take up to 10 seconds.</source>
 <context>
     <name>SimulatedAdapters</name>
     <message>
-        <location filename="../../src/network/simulatedadapters.cpp" line="+108"/>
+        <location filename="../../src/network/simulatedadapters.cpp" line="+118"/>
         <source>Simulated GigE adapter</source>
         <translation>模拟 GigE 适配器</translation>
     </message>
@@ -2894,6 +3832,20 @@ An automatic upload will be initiated next time you open the camera. This upload
     </message>
 </context>
 <context>
+    <name>TraceFileTail</name>
+    <message>
+        <location filename="../../src/driver/tracefiletail.cpp" line="+17"/>
+        <source>There is no trace file %1 yet.</source>
+        <translation>跟踪文件 %1 尚不存在。</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <location line="+10"/>
+        <source>The trace file %1 can&apos;t be read: %2</source>
+        <translation>无法读取跟踪文件 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>UsbTopology</name>
     <message>
         <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
@@ -2909,6 +3861,39 @@ An automatic upload will be initiated next time you open the camera. This upload
         <location line="+160"/>
         <source>unkown</source>
         <translation>未知</translation>
+    </message>
+</context>
+<context>
+    <name>UserEeprom</name>
+    <message>
+        <location filename="../../src/dialogs/usereeprom.cpp" line="+31"/>
+        <source>&quot;%1&quot; at position %2 is no hexadecimal digit.</source>
+        <translation>位置 %2 处的“%1”不是十六进制数字。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Each byte needs two hexadecimal digits; the last one has only one.</source>
+        <translation>每个字节需要两位十六进制数字；最后一个字节只有一位。</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>The text may hold printable ASCII characters only; &quot;%1&quot; at position %2 is none.</source>
+        <translation>文本只能包含可打印的 ASCII 字符；位置 %2 处的“%1”不是。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The user EEPROM holds %1 bytes; %2 bytes don&apos;t fit. Nothing was written.</source>
+        <translation>用户 EEPROM 可容纳 %1 字节，%2 字节放不下。未写入任何内容。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The user EEPROM could not be read.</source>
+        <translation>无法读取用户 EEPROM。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The user EEPROM could not be written.</source>
+        <translation>无法写入用户 EEPROM。</translation>
     </message>
 </context>
 <context>
