@@ -38,7 +38,8 @@ PV_API int32_t PV_CALL pvsim_ClearFailures(void);
 /* The driver's view as a JSON document: cameras with their state and who has
  * them open, adapters, settings, services. Writes the size needed including
  * the terminating NUL into *required; PV_ERR_BUFFER_TOO_SMALL when it does not
- * fit into `size` bytes. */
+ * fit into `size` bytes, and then a size with room for the state to grow
+ * before the next call (the adapters' counters never stand still). */
 PV_API int32_t PV_CALL pvsim_GetState(char* buffer, uint32_t size, uint32_t* required);
 
 /* The two driver services, "cirro_usb" and "cirro_eth". A stopped service

@@ -121,8 +121,11 @@ int32_t PV_CALL pvsim_GetState(char* buffer, uint32_t size, uint32_t* required)
     const std::string report =
         driver.read([&](Fleet& fleet) { return sim::stateReport(fleet, driver.events().eventCount()); });
     const std::uint32_t needed = std::uint32_t(report.size() + 1);
+    // Counters keep growing between a caller's two calls; room to spare lets
+    // the second call fit even then.
+    constexpr std::uint32_t growthRoom = 4096;
     if (required)
-        *required = needed;
+        *required = (buffer && size >= needed) ? needed : needed + growthRoom;
     if (!buffer || size < needed)
         return PV_ERR_BUFFER_TOO_SMALL;
     std::memcpy(buffer, report.c_str(), needed);

@@ -27,8 +27,11 @@ void Scheduler::schedule(std::chrono::milliseconds delay, std::function<void()> 
 
 void Scheduler::cancelAll()
 {
-    std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     m_actions.clear();
+    // An action may cancel the others itself; it must not wait for itself.
+    if (std::this_thread::get_id() != m_thread.get_id())
+        m_idle.wait(lock, [this] { return !m_running; });
 }
 
 std::size_t Scheduler::pending() const
@@ -52,9 +55,12 @@ void Scheduler::run()
         }
         auto action = std::move(m_actions.begin()->second);
         m_actions.erase(m_actions.begin());
+        m_running = true;
         lock.unlock(); // actions take the driver's lock and may schedule more
         action();
         lock.lock();
+        m_running = false;
+        m_idle.notify_all();
     }
 }
 

@@ -24,7 +24,8 @@ public:
     ~Scheduler();
 
     void schedule(std::chrono::milliseconds delay, std::function<void()> action);
-    // Drops every action not yet run.
+    // Drops every action not yet run and waits for one that is running, so
+    // that nothing scheduled before the call changes state after it.
     void cancelAll();
     std::size_t pending() const;
 
@@ -33,6 +34,8 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
+    std::condition_variable m_idle;
+    bool m_running = false;
     std::multimap<Clock::time_point, std::function<void()>> m_actions;
     bool m_stopping = false;
     std::thread m_thread;
