@@ -23,10 +23,16 @@
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "network/widgets/ipchangefollowup.h"
+#include "supportfile/supportfileredaction.h"
+#include "supportfile/supportfilesources.h"
+#include "supportfile/supportfilewalk.h"
+#include "supportfile/widgets/supportfiledialog.h"
+#include "supportfile/widgets/supportfilesavedialog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -200,6 +206,8 @@ void QCirroCameramanager::registerCommands()
     m_commands->setHandler(Command::AutomaticEthConfiguration, [this] { onAutoConfig(); });
     m_commands->setHandler(Command::EthService, [this] { onEthDaemonConfig(); });
     m_commands->setHandler(Command::AdditionalFunctions, [this] { OnAdditionalFunctionsDlg(); });
+    m_commands->setHandler(Command::SupportFile, [this] { onWriteSupportFile(); });
+    m_commands->setHandler(Command::ReadSupportFile, [this] { onReadSupportFile(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -447,6 +455,32 @@ void QCirroCameramanager::OnAdditionalFunctionsDlg()
     AdditionalFunctions dialog(this);
     dialog.exec();
     updateDetails(false); // boot boost and multicast settings show in a camera's state
+}
+
+void QCirroCameramanager::onWriteSupportFile()
+{
+    const std::optional<SupportFileSaveDialog::Answer> answer = SupportFileSaveDialog::ask(this);
+    if (!answer)
+        return;
+    m_cameraList->setAutoRefresh(false);
+    // The revision query is connected when the camera API offers it.
+    const auto noRevision = [](const Camera&) { return std::optional<CameraRevision>(); };
+    QSettings settings(Identity::settingsOrganisation(), Identity::settingsApplication());
+    const Result saved = SupportFileWalk::writeFile(
+        answer->path, SupportFileSources::gather(m_cameraList->model()->cameraList(), *m_services, noRevision),
+        answer->redact ? std::optional<QByteArray>(SupportFileRedaction::installationSecret(settings)) : std::nullopt);
+    m_cameraList->setAutoRefresh(m_controlArea->autoRefresh()->isChecked());
+    if (!saved.isSuccess())
+        QMessageBox::critical(this, tr("Save support file"), saved.text());
+}
+
+void QCirroCameramanager::onReadSupportFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Support file"), QString(), tr("Support files (*.bin)"));
+    if (path.isEmpty())
+        return;
+    SupportFileDialog dialog(path, this);
+    dialog.exec();
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

@@ -74,6 +74,8 @@ public slots:
     void onAutoConfigFinished();
     void onEthDaemonConfig();
     void OnAdditionalFunctionsDlg();
+    void onWriteSupportFile();
+    void onReadSupportFile();
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();
