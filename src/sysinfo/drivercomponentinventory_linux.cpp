@@ -4,6 +4,7 @@
 
 #include <cirro_api.h>
 
+#include <QDateTime>
 #include <QFileInfo>
 
 #include <dlfcn.h>
