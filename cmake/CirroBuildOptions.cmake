@@ -17,8 +17,6 @@ if(CIRRO_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         message(FATAL_ERROR "CIRRO_FUZZ needs clang: configure with CC=clang CXX=clang++")
     endif()
-    # Coverage for every library the fuzz targets reach.
-    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 find_program(CIRRO_CCACHE ccache)

@@ -102,11 +102,20 @@ std::wstring cameraSection(int kind, int number)
 
 } // namespace
 
-std::vector<SupportFileRow> SupportFileOutline::build(const SupportFileTree& tree)
+// The camera sections from number 0 on that hold a camera's own keys.
+static long long sectionsRead(const SupportFileTree& tree, int kind)
 {
-    return {cameraGroup(tree, SupportFileNames::UsbCount),
-            cameraGroup(tree, SupportFileNames::EthCount),
-            cameraGroup(tree, SupportFileNames::VpeCount),
+    long long count = 0;
+    while (tree.get(cameraSection(kind, int(count)), wide(Name::DeviceId)))
+        ++count;
+    return count;
+}
+
+std::vector<SupportFileRow> SupportFileOutline::build(const SupportFileTree& tree, bool partial)
+{
+    return {cameraGroup(tree, SupportFileNames::UsbCount, partial),
+            cameraGroup(tree, SupportFileNames::EthCount, partial),
+            cameraGroup(tree, SupportFileNames::VpeCount, partial),
             drivers(tree),
             systemInformation(tree),
             networkAdapters(tree),
@@ -114,12 +123,14 @@ std::vector<SupportFileRow> SupportFileOutline::build(const SupportFileTree& tre
             summitCompatibility(tree)};
 }
 
-SupportFileRow SupportFileOutline::cameraGroup(const SupportFileTree& tree, int kind)
+SupportFileRow SupportFileOutline::cameraGroup(const SupportFileTree& tree, int kind, bool partial)
 {
     const QString name = kind == SupportFileNames::UsbCount ? tr("USB") : kind == SupportFileNames::EthCount ? tr("ETH")
                                                                                                              : tr("VPE");
-    const long long count = tree.number(SupportFileNames::countSection(SupportFileNames::CountKind(kind)),
-                                        wide(Name::NumberOfCameras), -1);
+    long long count = tree.number(SupportFileNames::countSection(SupportFileNames::CountKind(kind)),
+                                  wide(Name::NumberOfCameras), -1);
+    if (partial && count < 0)
+        count = sectionsRead(tree, kind);
     if (count < 1)
         return SupportFileRow{tr("No %1 Cameras").arg(name), QString(), false, {}};
     SupportFileRow group{tr("%1 Cameras").arg(name), QString(), false, {}};

@@ -18,10 +18,12 @@ class SupportFileOutline final
     Q_DECLARE_TR_FUNCTIONS(SupportFileDialog)
 
 public:
-    static std::vector<SupportFileRow> build(const SupportFileTree& tree);
+    // partial: the file broke off, so its counts, written after the cameras,
+    // may be missing; the camera sections it holds are shown all the same.
+    static std::vector<SupportFileRow> build(const SupportFileTree& tree, bool partial = false);
 
 private:
-    static SupportFileRow cameraGroup(const SupportFileTree& tree, int kind);
+    static SupportFileRow cameraGroup(const SupportFileTree& tree, int kind, bool partial);
     static SupportFileRow usbCamera(const SupportFileCamera& camera);
     static SupportFileRow ethCamera(const SupportFileCamera& camera);
     static void addEthDevice(SupportFileRow& row, const SupportFileCamera& camera);

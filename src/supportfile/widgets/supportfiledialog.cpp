@@ -25,6 +25,7 @@ SupportFileDialog::SupportFileDialog(const QString& path, QWidget* parent)
     setWindowTitle(tr("Support file %1").arg(QFileInfo(path).fileName()));
     SupportFileReader::Result read = SupportFileReader::read(path);
     m_content = std::move(read.tree);
+    m_partial = read.partial;
 
     auto* layout = new QVBoxLayout(this);
     m_notice = new QLabel(this);
@@ -76,7 +77,7 @@ void SupportFileDialog::buildTree()
 {
     if (m_content.isEmpty())
         return;
-    for (const SupportFileRow& group : SupportFileOutline::build(m_content)) {
+    for (const SupportFileRow& group : SupportFileOutline::build(m_content, m_partial)) {
         auto* item = new QTreeWidgetItem(m_tree, {group.label, group.value});
         for (const SupportFileRow& row : group.children)
             addRows(item, row);

@@ -36,6 +36,7 @@ private:
 
     QString m_path;
     SupportFileTree m_content;
+    bool m_partial = false;
     QLabel* m_notice = nullptr;
     QTreeWidget* m_tree = nullptr;
 };

@@ -111,8 +111,9 @@ void TestSupportFileDialog::damagedFilesSayWhereReadingStopped()
     QCOMPARE(dialog.tree()->topLevelItemCount() > 0, treeShown);
     QCOMPARE(dialog.findChild<QPushButton*>("exportJson")->isEnabled(), treeShown);
     if (treeShown) {
-        // The header section came before the damage; the counts after it are missing.
-        QCOMPARE(dialog.tree()->topLevelItem(1)->text(0), QString("No ETH Cameras"));
+        // The counts come after the cameras: the camera read before the damage is shown without its count.
+        QCOMPARE(dialog.tree()->topLevelItem(1)->text(0), QString("ETH Cameras"));
+        QCOMPARE(dialog.tree()->topLevelItem(1)->child(0)->text(0), QString("1000 / Unused"));
     }
 }
 
