@@ -16,6 +16,7 @@
 #include <vector>
 
 class Camera;
+struct SupportFileField;
 
 // Builds the tree of one support file, section by section in the order the
 // walk over the cameras calls it, and saves it scrambled. One writer per file.
@@ -50,7 +51,7 @@ public:
     static constexpr int firstDetailedControllerType = 3;
 
 private:
-    void writeFields(const std::wstring& section, const std::vector<struct SupportFileField>& fields,
+    void writeFields(const std::wstring& section, const std::vector<SupportFileField>& fields,
                      const pv_ExtendedDeviceInformation& record);
     void writeUsbPath(const std::wstring& section, const UsbTopology::Location& path);
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-Camera camera(quint32 deviceId)
+Camera seedCamera(quint32 deviceId)
 {
     pv_ExtendedDeviceInformation record{};
     record.deviceId = deviceId;
@@ -40,19 +40,19 @@ int main(int argc, char* argv[])
 
     SupportFileWriter usb;
     usb.writeHeader();
-    usb.writeUsbCamera(0, camera(0), UsbTopology::Location{{{"1-2", "Hub", 3}}, "xHCI"}, false, true);
+    usb.writeUsbCamera(0, seedCamera(0), UsbTopology::Location{{{"1-2", "Hub", 3}}, "xHCI"}, false, true);
     usb.writeCameraCount(SupportFileNames::UsbCount, 1);
     ok = save(usb, directory, "usb.bin") && ok;
 
     SupportFileWriter eth;
     eth.writeHeader();
-    eth.writeEthCamera(0, camera(1000));
+    eth.writeEthCamera(0, seedCamera(1000));
     eth.writeCameraCount(SupportFileNames::EthCount, 1);
     ok = save(eth, directory, "eth.bin") && ok;
 
     SupportFileWriter host;
     host.writeHeader();
-    host.writeVpeCamera(0, camera(2000));
+    host.writeVpeCamera(0, seedCamera(2000));
     host.writeRevision(false, 1, CameraRevision{{"type", "1.0"}});
     host.writeCameraCount(SupportFileNames::VpeCount, 1);
     host.writeInstalledDrivers({{DriverComponent::Kind::ApiLibrary, "libcirro_api.so.1", "/usr/lib", "1", "4.97.0", ""}});
