@@ -5,7 +5,8 @@
 # the fuzzer. Arguments go to libFuzzer, for example:
 #   tools/fuzz-supportfile.sh -max_total_time=60
 #   tools/fuzz-supportfile.sh -runs=10000000
-# Crashing inputs land in build-fuzz/fuzz-findings/.
+# Inputs of up to 4 KB: a count and a camera section fit, and small inputs
+# keep the search fast. Crashing inputs land in build-fuzz/fuzz-findings/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -23,5 +24,5 @@ mkdir -p build-fuzz/fuzz-corpus build-fuzz/fuzz-seeds build-fuzz/fuzz-findings
 build-fuzz/bin/supportfile_seeds build-fuzz/fuzz-seeds
 export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
-build-fuzz/bin/fuzz_supportfilereader -max_len=65536 -rss_limit_mb=2048 -timeout=10 \
+build-fuzz/bin/fuzz_supportfilereader -max_len=4096 -rss_limit_mb=2048 -timeout=10 \
     -artifact_prefix=build-fuzz/fuzz-findings/ "$@" build-fuzz/fuzz-corpus build-fuzz/fuzz-seeds
