@@ -13,6 +13,12 @@ if(CIRRO_SANITIZE)
     endif()
 endif()
 
+if(CIRRO_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "CIRRO_FUZZ needs clang: configure with CC=clang CXX=clang++")
+    endif()
+endif()
+
 find_program(CIRRO_CCACHE ccache)
 if(CIRRO_CCACHE)
     set(CMAKE_C_COMPILER_LAUNCHER ${CIRRO_CCACHE})

@@ -16,6 +16,8 @@ public:
     // "M-D-YYYY" like the driver dates of other systems; empty for an unknown
     // or built-in module.
     QString buildDate(const QString& moduleName) const;
+    // The module's file, absolute; empty for an unknown or built-in module.
+    QString filePath(const QString& moduleName) const;
 
 private:
     QString m_directory;

@@ -49,11 +49,17 @@ const KernelModules& KernelModules::running()
     return modules;
 }
 
-QString KernelModules::buildDate(const QString& moduleName) const
+QString KernelModules::filePath(const QString& moduleName) const
 {
     const QString file = m_files.value(canonicalModuleName(moduleName));
+    return file.isEmpty() ? QString() : QDir(m_directory).filePath(file);
+}
+
+QString KernelModules::buildDate(const QString& moduleName) const
+{
+    const QString file = filePath(moduleName);
     if (file.isEmpty())
         return {};
-    const QDateTime modified = QFileInfo(QDir(m_directory).filePath(file)).lastModified();
+    const QDateTime modified = QFileInfo(file).lastModified();
     return modified.isValid() ? modified.date().toString(QStringLiteral("M-d-yyyy")) : QString();
 }

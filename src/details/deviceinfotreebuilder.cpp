@@ -7,15 +7,12 @@
 #include "details/flagtables.h"
 #include "details/localadapter.h"
 
-#include <cstring>
-
 namespace {
 
 using Value = DeviceInfoItem::ValueFunction;
 
 // A U3V camera of the sibling SDK carries this type code.
 constexpr quint8 usb3VisionTypeCode = 225;
-constexpr int userEepromLength = 8;
 constexpr int comPortBase = 100;
 
 QString versionText(quint32 word)
@@ -33,25 +30,6 @@ QString nonZeroMac(const quint8* mac)
 {
     const QString text = Camera::macText(mac);
     return text == QLatin1String("00-00-00-00-00-00") ? QString() : text;
-}
-
-// The prefix does not match the decimal digits; kept as the driver tools show it.
-QString decimalWord(quint32 word)
-{
-    return QLatin1String("0x") + QString::number(word);
-}
-
-QString hexWord(quint32 word)
-{
-    return QLatin1String("0x") + QString::number(word, 16);
-}
-
-// Also "..." at exactly eight characters.
-QString userEepromText(const Camera& camera)
-{
-    const char* text = camera.eth().userSpace;
-    const QString eeprom = QString::fromLatin1(text, int(strnlen(text, sizeof camera.eth().userSpace)));
-    return eeprom.size() >= userEepromLength ? eeprom.left(userEepromLength) + QLatin1String("...") : eeprom;
 }
 
 Value version(quint32 pv_DeviceInformation::*field)
@@ -93,7 +71,7 @@ QVariant sensorId(const Camera& camera)
 void addFlags(DeviceInfoItem& parent, const QString& label, FlagWord word)
 {
     DeviceInfoItem* flags = parent.appendChild(label, [word](const Camera& camera) {
-        return decimalWord(DeviceFlagRenderer::wordOf(word, camera));
+        return DeviceValueRenderer::flagWord(DeviceFlagRenderer::wordOf(word, camera));
     });
     // Dozens of bits: opened on request.
     flags->setExpandedAtFirst(false);
@@ -132,8 +110,7 @@ DeviceInfoTreeBuilder::pathRows(const std::optional<UsbTopology::Location>& loca
     if (!location)
         return rows;
     for (const UsbTopology::HubLevel& hub : location->hubs) {
-        const QString name = hub.hubDescription.isEmpty() ? hub.hubName : hub.hubDescription;
-        rows.push_back({tr("%1. Hub").arg(rows.size() + 1), tr("%1 (Port %2)").arg(name).arg(hub.port)});
+        rows.push_back({tr("%1. Hub").arg(rows.size() + 1), tr("%1 (Port %2)").arg(hub.displayName()).arg(hub.port)});
     }
     rows.push_back({tr("%1. Controller").arg(rows.size() + 1), location->controller});
     return rows;
@@ -157,7 +134,7 @@ void DeviceInfoTreeBuilder::addEthDevice(DeviceInfoItem& root) const
     DeviceInfoItem* device = root.appendChild(tr("Device"));
     DeviceInfoItem* general = device->appendChild(tr("General"));
     addFirmwareVersions(*general);
-    general->appendChild(tr("User EEPROM (8 chars)"), text(userEepromText));
+    general->appendChild(tr("User EEPROM (8 chars)"), text(DeviceValueRenderer::userEeprom));
     general->appendChild(tr("COM port number"), comPort);
     general->appendChild(tr("Camera temperature"), temperature);
     addFlags(*general, tr("Device status flags"), FlagWord::DeviceStatus);
@@ -166,7 +143,7 @@ void DeviceInfoTreeBuilder::addEthDevice(DeviceInfoItem& root) const
     DeviceInfoItem* hardware = device->appendChild(tr("Hardware"));
     hardware->appendChild(tr("Sensor ID"), sensorId);
     hardware->appendChild(tr("Image memory size"), [](const Camera& camera) {
-        return tr("%1 MB").arg(camera.deviceInformation().imageMemoryMB);
+        return DeviceValueRenderer::memorySize(camera.deviceInformation().imageMemoryMB);
     });
     addEthNetwork(*device);
 }
@@ -180,9 +157,9 @@ void DeviceInfoTreeBuilder::addEthNetwork(DeviceInfoItem& device) const
     network->appendChild(tr("Persistent IP address"), ip(&pv_EthDeviceInfo::persistentIp));
     network->appendChild(tr("Persistent IP subnetmask"), ip(&pv_EthDeviceInfo::persistentMask));
     network->appendChild(tr("DHCP FSM state"),
-                         [](const Camera& camera) { return hexWord(camera.eth().dhcpFsmState); });
+                         [](const Camera& camera) { return DeviceValueRenderer::hexWord(camera.eth().dhcpFsmState); });
     DeviceInfoItem* dhcp = network->appendChild(
-        tr("DHCP state"), [](const Camera& camera) { return hexWord(camera.eth().dhcpState); });
+        tr("DHCP state"), [](const Camera& camera) { return DeviceValueRenderer::hexWord(camera.eth().dhcpState); });
     dhcp->appendChild(tr("Enabled"), [](const Camera& camera) {
         return DeviceFlagRenderer::boolText(camera.eth().dhcpState & PV_DHCP_ENABLED);
     });
@@ -196,7 +173,8 @@ void DeviceInfoTreeBuilder::addEthNetwork(DeviceInfoItem& device) const
                          [](const Camera& camera) { return nonZeroMac(camera.eth().pairedHostMac); });
     network->appendChild(tr("Paired host IP address"), ip(&pv_EthDeviceInfo::pairedHostIp));
     network->appendChild(tr("Multicast IP address"), ip(&pv_EthDeviceInfo::multicastIp));
-    network->appendChild(tr("Link"), [](const Camera& camera) { return tr("%1 Mbits/s").arg(camera.linkSpeed()); });
+    network->appendChild(tr("Link"),
+                         [](const Camera& camera) { return DeviceValueRenderer::ethLinkSpeed(camera.linkSpeed()); });
 }
 
 void DeviceInfoTreeBuilder::addLocalAdapter(DeviceInfoItem& root) const

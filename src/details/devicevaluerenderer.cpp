@@ -4,11 +4,14 @@
 
 #include <QCoreApplication>
 
+#include <cstring>
+
 namespace {
 
 constexpr quint16 highSpeedMbits = 480;
 // The driver reports a 5 Gbit/s link as 4000.
 constexpr quint16 superSpeedMbits = 4000;
+constexpr int userEepromLength = 8;
 
 } // namespace
 
@@ -17,14 +20,26 @@ QString DeviceValueRenderer::macAddress(const Camera& camera)
     return macAddress(camera.macAddress());
 }
 
+DeviceValueRenderer::SensorFault DeviceValueRenderer::sensorFault(const QString& addressText)
+{
+    const QString end = addressText.right(8);
+    if (end == QLatin1String("00-00-00"))
+        return SensorFault::Defect;
+    if (end == QLatin1String("80-00-00"))
+        return SensorFault::TooHigh;
+    return SensorFault::None;
+}
+
 QString DeviceValueRenderer::macAddress(const QString& macText)
 {
-    const QString end = macText.right(8);
-    if (end == QLatin1String("00-00-00"))
+    switch (sensorFault(macText)) {
+    case SensorFault::Defect:
         return QCoreApplication::translate("DeviceInfoModel", "Invalid - temperature sensor defect!");
-    if (end == QLatin1String("80-00-00"))
+    case SensorFault::TooHigh:
         return QCoreApplication::translate("DeviceInfoModel", "Invalid - temperature sensor to high!");
-    return macText;
+    default:
+        return macText;
+    }
 }
 
 QString DeviceValueRenderer::linkSpeed(const Camera& camera)
@@ -61,4 +76,32 @@ QString DeviceValueRenderer::packetFilter(quint32 mode)
     default:
         return QStringLiteral("?");
     }
+}
+
+QString DeviceValueRenderer::flagWord(quint32 word)
+{
+    return QLatin1String("0x") + QString::number(word);
+}
+
+QString DeviceValueRenderer::hexWord(quint32 word)
+{
+    return QLatin1String("0x") + QString::number(word, 16);
+}
+
+QString DeviceValueRenderer::userEeprom(const Camera& camera)
+{
+    const char* text = camera.eth().userSpace;
+    const QString eeprom = QString::fromLatin1(text, int(strnlen(text, sizeof camera.eth().userSpace)));
+    // Also "..." at exactly eight characters.
+    return eeprom.size() >= userEepromLength ? eeprom.left(userEepromLength) + QLatin1String("...") : eeprom;
+}
+
+QString DeviceValueRenderer::ethLinkSpeed(quint32 mbits)
+{
+    return QCoreApplication::translate("DeviceInfoModel", "%1 Mbits/s").arg(mbits);
+}
+
+QString DeviceValueRenderer::memorySize(quint32 megabytes)
+{
+    return QCoreApplication::translate("DeviceInfoModel", "%1 MB").arg(megabytes);
 }

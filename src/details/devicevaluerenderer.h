@@ -8,6 +8,10 @@ class Camera;
 class DeviceValueRenderer final
 {
 public:
+    // What the end of an address that comes from the temperature sensor says about it.
+    enum class SensorFault { None, Defect, TooHigh };
+    static SensorFault sensorFault(const QString& addressText);
+
     // The camera's MAC text, replaced by a warning where the temperature sensor
     // that holds the address's end reports a fault.
     static QString macAddress(const Camera& camera);
@@ -18,4 +22,13 @@ public:
     // GigE cameras: the packet filter mode of the adapter.
     static QString packetFilter(const Camera& camera);
     static QString packetFilter(quint32 mode);
+    // A status or control word: "0x" and the word in decimal, as the driver tools show it.
+    static QString flagWord(quint32 word);
+    // "0x" and the word in hexadecimal.
+    static QString hexWord(quint32 word);
+    // The user EEPROM text cut to eight characters, "..." from eight on.
+    static QString userEeprom(const Camera& camera);
+    // A GigE camera's link: "%1 Mbits/s".
+    static QString ethLinkSpeed(quint32 mbits);
+    static QString memorySize(quint32 megabytes);
 };

@@ -68,6 +68,8 @@ public:
         QString hubName;
         QString hubDescription;
         int port = 0;
+        // The description where the hub has one.
+        QString displayName() const { return hubDescription.isEmpty() ? hubName : hubDescription; }
     };
 
     struct Location

@@ -35,7 +35,7 @@ Result EthServiceBindings::setBound(const QString& interfaceName, bool bound)
 {
     if (!isInterfaceName(interfaceName))
         return NetworkFailure::unknownInterface(interfaceName);
-    ServiceSettingsFile settings(QLatin1String(DriverServiceSettings::ethService));
+    ServiceSettingsFile settings{QLatin1String(DriverServiceSettings::ethService)};
     if (!settings.problem().isSuccess())
         return settings.problem();
     if (settings.isWritable()) {

@@ -6,6 +6,7 @@
 #include "app/identity.h"
 #include "app/widgets/startup.h"
 #include "app/widgets/qcirrocameramanager.h"
+#include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "common/usersettings.h"
 #include "dialogs/widgets/multicastdialog.h"
@@ -23,6 +24,9 @@
 #include "network/widgets/ethdaemonconfig.h"
 #include "services/servicemanager.h"
 #include "network/widgets/qipedit.h"
+#include "supportfile/supportfilesources.h"
+#include "supportfile/supportfilewalk.h"
+#include "supportfile/widgets/supportfiledialog.h"
 
 #include <pvsim.h>
 
@@ -244,6 +248,89 @@ bool shootAdditionalCameraInfo(QCirroCameramanager& window, const QDir& output, 
     return save(dialog, output, name);
 }
 
+// The simulated USB cameras sit on no hub of this machine: the file places
+// the first one ("2-1") on a hub of a made-up controller, so that its path shows.
+std::shared_ptr<const UsbTopology> demoTopology()
+{
+    auto camera = std::make_unique<UsbTopology::Device>();
+    camera->driverKey = QStringLiteral("2-1");
+    UsbTopology::Hub root;
+    root.name = QStringLiteral("usb2");
+    root.description = QStringLiteral("xHCI Host Controller root hub");
+    root.ports.resize(4);
+    root.ports[0].number = 1;
+    root.ports[0].device = std::move(camera);
+    std::vector<UsbTopology::HostController> controllers(1);
+    controllers[0].description = QStringLiteral("Intel Corporation Tiger Lake-LP USB 3.2 Gen 2x1 xHCI Host Controller");
+    controllers[0].type = UsbTopology::ControllerType::Xhci;
+    controllers[0].driver = {QStringLiteral("xhci_pci"), QStringLiteral("6.1.0"), QStringLiteral("1-20-2024")};
+    controllers[0].rootHubs.push_back(std::move(root));
+    return std::make_shared<const UsbTopology>(std::move(controllers));
+}
+
+// Opens the item and its rows, except the groups named in skip.
+void expandBelow(QTreeWidgetItem* item, const QStringList& skip)
+{
+    item->setExpanded(true);
+    for (int i = 0; i < item->childCount(); ++i) {
+        if (!skip.contains(item->child(i)->text(0)))
+            expandBelow(item->child(i), skip);
+    }
+}
+
+QTreeWidgetItem* cameraItem(QTreeWidget& tree, const QString& group, int index)
+{
+    const QList<QTreeWidgetItem*> groups = tree.findItems(group, Qt::MatchExactly);
+    return groups.isEmpty() ? nullptr : groups[0]->child(index);
+}
+
+bool shootSupportFile(QCirroCameramanager& window, const QDir& output)
+{
+    const QString path = output.filePath(QStringLiteral("default-fleet.bin"));
+    const std::unique_ptr<ServiceManager> services = ServiceManager::create();
+    SupportFileSources sources = SupportFileSources::gather(window.cameraList()->model()->cameraList(), *services, {});
+    sources.topology = demoTopology();
+    if (!SupportFileWalk::writeFile(path, sources, std::nullopt).isSuccess())
+        return false;
+    bool ok = true;
+    {
+        SupportFileDialog dialog(path, &window);
+        dialog.resize(720, 900);
+        dialog.show();
+        QTreeWidget& tree = *dialog.tree();
+        QTreeWidgetItem* eth = cameraItem(tree, QStringLiteral("ETH Cameras"), 0);
+        tree.topLevelItem(0)->setExpanded(false);
+        if (eth) {
+            expandBelow(eth, {QStringLiteral("Debug info"), QStringLiteral("Transfer")});
+            tree.scrollToItem(eth, QAbstractItemView::PositionAtTop);
+        }
+        ok = save(dialog, output, QStringLiteral("supportfile-eth")) && ok;
+
+        tree.collapseAll();
+        tree.topLevelItem(0)->setExpanded(true);
+        QTreeWidgetItem* usb = cameraItem(tree, QStringLiteral("USB Cameras"), 0);
+        if (usb)
+            expandBelow(usb, {});
+        ok = save(dialog, output, QStringLiteral("supportfile-usb")) && ok;
+    }
+    // A file damaged in its third camera.
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QList<QByteArray> lines = file.readAll().split('\n');
+    file.close();
+    lines[2600] = "12x45\r";
+    const QString damaged = output.filePath(QStringLiteral("damaged.bin"));
+    QFile broken(damaged);
+    if (!broken.open(QIODevice::WriteOnly) || broken.write(lines.join('\n')) < 0)
+        return false;
+    broken.close();
+    SupportFileDialog dialog(damaged, &window);
+    dialog.resize(720, 600);
+    dialog.show();
+    return save(dialog, output, QStringLiteral("supportfile-damaged")) && ok;
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -303,6 +390,7 @@ int main(int argc, char* argv[])
     ok = shootCameraInfo(window, output) && ok;
     ok = shootAdditionalCameraInfo(window, output, 0, QStringLiteral("additionalcamerainfo-usb")) && ok;
     ok = shootAdditionalCameraInfo(window, output, 1005, QStringLiteral("additionalcamerainfo-gige")) && ok;
+    ok = shootSupportFile(window, output) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

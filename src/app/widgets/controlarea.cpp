@@ -38,8 +38,9 @@ ControlArea::ControlArea(CommandRegistry& commands, QWidget* parent)
     addButton("automaticEthConfiguration", Command::AutomaticEthConfiguration);
     addButton("uploadStarterFirmware", Command::UploadFirmware);
     addButton("manualEthConfiguration", Command::ManualEthConfiguration);
-    // These two have no place in the grid; they stay hidden.
-    addButton("readSupportFile", Command::ReadSupportFile)->hide();
+    // Below the grid, so that a file from another machine can be read.
+    addButton("readSupportFile", Command::ReadSupportFile);
+    // No place in the grid; it stays hidden.
     addButton("additionalCameraInfo", Command::AdditionalCameraInformation)->hide();
     buildLayout();
     setTabOrder();
@@ -63,6 +64,7 @@ void ControlArea::buildLayout()
         grid->addWidget(m_buttons.value(buttonRows.at(row).first), row + 1, 0);
         grid->addWidget(m_buttons.value(buttonRows.at(row).second), row + 1, 1);
     }
+    grid->addWidget(m_buttons.value(Command::ReadSupportFile), buttonRows.size() + 1, 0);
 }
 
 void ControlArea::setTabOrder()

@@ -29,10 +29,16 @@
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "network/widgets/ipchangefollowup.h"
+#include "supportfile/supportfileredaction.h"
+#include "supportfile/supportfilesources.h"
+#include "supportfile/supportfilewalk.h"
+#include "supportfile/widgets/supportfiledialog.h"
+#include "supportfile/widgets/supportfilesavedialog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -214,6 +220,8 @@ void QCirroCameramanager::registerCommands()
     m_commands->handleRequest(Command::CameraInformation, m_cameraList, &CameraList::openCameraInfo, this,
                               &QCirroCameramanager::openCameraInfoDialog);
     m_commands->setHandler(Command::AdditionalCameraInformation, [this] { onAddCameraInfo(); });
+    m_commands->setHandler(Command::SupportFile, [this] { onWriteSupportFile(); });
+    m_commands->setHandler(Command::ReadSupportFile, [this] { onReadSupportFile(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
                               &QCirroCameramanager::onOpenCamera);
     m_commands->handleRequest(Command::IdentifyCamera, m_cameraList, &CameraList::identCamera, this,
@@ -571,6 +579,31 @@ void QCirroCameramanager::onMulticastDialog(const Camera& camera)
 {
     (new MulticastDialog(camera, this))->exec(); // deletes itself when it closes
     updateDetails(false);
+}
+
+void QCirroCameramanager::onWriteSupportFile()
+{
+    const std::optional<SupportFileSaveDialog::Answer> answer = SupportFileSaveDialog::ask(this);
+    if (!answer)
+        return;
+    m_cameraList->setAutoRefresh(false);
+    const auto revision = [](const Camera& camera) { return CameraRevision::query(camera.deviceId()); };
+    QSettings settings(UserSettings::organisation(), UserSettings::application());
+    const Result saved = SupportFileWalk::writeFile(
+        answer->path, SupportFileSources::gather(m_cameraList->model()->cameraList(), *m_services, revision),
+        answer->redact ? std::optional<QByteArray>(SupportFileRedaction::installationSecret(settings)) : std::nullopt);
+    m_cameraList->setAutoRefresh(m_controlArea->autoRefresh()->isChecked());
+    if (!saved.isSuccess())
+        QMessageBox::critical(this, tr("Save support file"), saved.text());
+}
+
+void QCirroCameramanager::onReadSupportFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Support file"), QString(), tr("Support files (*.bin)"));
+    if (path.isEmpty())
+        return;
+    SupportFileDialog dialog(path, this);
+    dialog.exec();
 }
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)

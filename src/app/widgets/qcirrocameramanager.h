@@ -81,6 +81,8 @@ public slots:
     void onUploadFirmware();
     void onFirmwareUploadFinished(int index);
     void onMulticastDialog(const Camera& camera);
+    void onWriteSupportFile();
+    void onReadSupportFile();
     void OnCameraListRefresh();
     void UpdateDeviceInfo(const Camera* camera, bool force_reset);
     void UpdateControls();

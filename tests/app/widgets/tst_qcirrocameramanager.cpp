@@ -5,6 +5,8 @@
 #include "dialogs/widgets/multicastdialog.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/qipedit.h"
+#include "supportfile/supportfilereader.h"
+#include "supportfile/widgets/supportfilesavedialog.h"
 
 #include "fleetcamera.h"
 #include "messageboxanswerer.h"
@@ -14,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
@@ -90,6 +93,8 @@ private slots:
     void manualConfigurationWithASuggestedAddress();
     void adapterAdviceFollowsTheSelection();
     void automaticConfigurationFailureIsReported();
+    void writingASupportFileRestoresTheRefresh_data();
+    void writingASupportFileRestoresTheRefresh();
 
 private:
     std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations);
@@ -343,11 +348,13 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation", "createSupportFile"})
+    for (const char* name : {"generalInformation"})
         QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "additionalFunctions")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "createSupportFile")->isEnabled());
+    QVERIFY(child<QPushButton>(*window, "readSupportFile")->isEnabled());
     // Built, and allowed for a free GigE camera but not for a USB camera.
     const char* const gigeOnly[] = {"manualEthConfiguration", "automaticEthConfiguration", "uploadStarterFirmware"};
     for (const char* name : gigeOnly)
@@ -587,6 +594,54 @@ void TestMainWindow::automaticConfigurationFailureIsReported()
     QTRY_COMPARE(answerer.seen.size(), 1);
     QCOMPARE(answerer.seen.last(), QStringLiteral("Automatic configuration: The network adapter of device 1000 has no "
                                                   "IPv4 address, so there is no subnet to take a range from."));
+}
+
+
+void TestMainWindow::writingASupportFileRestoresTheRefresh_data()
+{
+    QTest::addColumn<bool>("refreshChecked");
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("refresh on") << true << true;
+    QTest::newRow("refresh off") << false << true;
+    QTest::newRow("cancelled") << true << false;
+}
+
+void TestMainWindow::writingASupportFileRestoresTheRefresh()
+{
+    QFETCH(bool, refreshChecked);
+    QFETCH(bool, answer);
+    QSettings("Parvel", "CameraManager").setValue("mainWindow/checkExpert", true);
+    QSettings("Parvel", "CameraManager").setValue("mainWindow/checkRefresh", refreshChecked);
+    const auto window = makeWindow();
+    QCOMPARE(window->cameraList()->isAutoRefreshOn(), refreshChecked);
+    QTemporaryDir dir;
+    const QString path = dir.filePath("site.bin");
+    bool refreshWhileAsked = true;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = qobject_cast<SupportFileSaveDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowTitle(), QString("Save support file"));
+        QCOMPARE(dialog->nameFilters(), QStringList{"Support file (*.bin)"});
+        QVERIFY(dialog->findChild<QCheckBox*>("redact"));
+        refreshWhileAsked = window->cameraList()->isAutoRefreshOn();
+        if (!answer) {
+            dialog->reject();
+            return;
+        }
+        dialog->selectFile(path);
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    child<QPushButton>(*window, "createSupportFile")->click();
+    QCOMPARE(refreshWhileAsked, refreshChecked); // the list is frozen only after the file is chosen
+    QCOMPARE(window->cameraList()->isAutoRefreshOn(), refreshChecked);
+    QCOMPARE(QFile::exists(path), answer);
+    if (!answer)
+        return;
+    const SupportFileReader::Result read = SupportFileReader::read(path);
+    QCOMPARE(read.error, QString());
+    QCOMPARE(read.tree.number(L"USB", L"Number of cameras", -1), 5LL);
+    QVERIFY(read.tree.number(L"ETH", L"Number of cameras", -1) > 0);
+    QVERIFY(read.tree.hasSection(L"Installed drivers"));
 }
 
 QTEST_MAIN(TestMainWindow)
