@@ -1241,7 +1241,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
 <context>
     <name>ControlArea</name>
     <message>
-        <location filename="../../src/app/widgets/controlarea.cpp" line="+84"/>
+        <location filename="../../src/app/widgets/controlarea.cpp" line="+86"/>
         <source>Control area</source>
         <translation>Steuerbereich</translation>
     </message>
@@ -1377,7 +1377,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Werte</translation>
     </message>
     <message>
-        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+110"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+88"/>
         <source>Starter firmware version</source>
         <translation>Version der Starter-Firmware</translation>
     </message>
@@ -1387,7 +1387,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Version der Runtime-Firmware</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+23"/>
         <source>%1. Hub</source>
         <translation>%1. Hub</translation>
     </message>
@@ -1413,37 +1413,37 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
     </message>
     <message>
         <location line="+5"/>
-        <location line="+50"/>
+        <location line="+51"/>
         <location line="+36"/>
         <source>Device</source>
         <translation>Gerät</translation>
     </message>
     <message>
-        <location line="-85"/>
-        <location line="+48"/>
+        <location line="-86"/>
+        <location line="+49"/>
         <location line="+38"/>
         <source>General</source>
         <translation>Allgemein</translation>
     </message>
     <message>
-        <location line="-84"/>
+        <location line="-85"/>
         <source>User EEPROM (8 chars)</source>
         <translation>Benutzer-EEPROM (8 Zeichen)</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+88"/>
+        <location line="+89"/>
         <source>COM port number</source>
         <translation>COM-Port-Nummer</translation>
     </message>
     <message>
-        <location line="-87"/>
-        <location line="+85"/>
+        <location line="-88"/>
+        <location line="+86"/>
         <source>Camera temperature</source>
         <translation>Kameratemperatur</translation>
     </message>
     <message>
-        <location line="-84"/>
+        <location line="-85"/>
         <source>Device status flags</source>
         <translation>Gerätestatus-Flags</translation>
     </message>
@@ -1459,34 +1459,34 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+78"/>
+        <location line="+79"/>
         <source>Sensor ID</source>
         <translation>Sensor-ID</translation>
     </message>
     <message>
-        <location line="-77"/>
+        <location line="-78"/>
         <source>Image memory size</source>
         <translation>Größe des Bildspeichers</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="+106"/>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
     <message>
-        <location line="+7"/>
-        <location line="+43"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+8"/>
+        <location line="+44"/>
         <source>Network</source>
         <translation>Netzwerk</translation>
     </message>
     <message>
-        <location line="-42"/>
-        <location line="+43"/>
+        <location line="-43"/>
+        <location line="+44"/>
         <source>MAC address</source>
         <translation>MAC-Adresse</translation>
     </message>
     <message>
-        <location line="-42"/>
+        <location line="-43"/>
         <source>Current IP address</source>
         <translation>Aktuelle IP-Adresse</translation>
     </message>
@@ -1542,18 +1542,18 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+31"/>
+        <location line="+32"/>
         <source>IP range begin</source>
         <translation>Beginn des IP-Bereichs</translation>
     </message>
     <message>
-        <location line="-30"/>
-        <location line="+32"/>
+        <location line="-31"/>
+        <location line="+33"/>
         <source>IP range end</source>
         <translation>Ende des IP-Bereichs</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>Paired host MAC address</source>
         <translation>MAC-Adresse des gekoppelten Hosts</translation>
     </message>
@@ -1573,12 +1573,12 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="-5"/>
         <source>%1 Mbits/s</source>
         <translation>%1 Mbit/s</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+7"/>
         <source>Local network adapter</source>
         <translation>Lokaler Netzwerkadapter</translation>
     </message>
@@ -1683,7 +1683,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Max. kompatible Starter-FW</translation>
     </message>
     <message>
-        <location filename="../../src/details/devicevaluerenderer.cpp" line="+24"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="-64"/>
         <source>Invalid - temperature sensor defect!</source>
         <translation>Ungültig - Temperatursensor defekt!</translation>
     </message>
@@ -1693,7 +1693,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Ungültig - Temperatur am Sensor zu hoch!</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>High Speed (USB 2.0)</source>
         <translation>High-Speed (USB 2.0)</translation>
     </message>
@@ -1941,6 +1941,39 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
         <source>Copy item values</source>
         <translation>Werte der Einträge kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>DriverComponentInventory</name>
+    <message>
+        <location filename="../../src/sysinfo/drivercomponentinventory.cpp" line="+19"/>
+        <source>not installed</source>
+        <translation>nicht installiert</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not running</source>
+        <translation>läuft nicht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>no access to the service manager</source>
+        <translation>kein Zugriff auf die Dienstverwaltung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simuliert)</translation>
     </message>
 </context>
 <context>
@@ -3003,7 +3036,7 @@ Er hat zu viele Werte oder zu lange Namen.</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+253"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+261"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -3095,7 +3128,22 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Gerät %1: Firmware erfolgreich hochgeladen. Auf der Kamera läuft jetzt die Starter-Firmware %2.</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+34"/>
+        <source>Save support file</source>
+        <translation>Supportdatei speichern</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Support file</source>
+        <translation>Supportdatei</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Support files (*.bin)</source>
+        <translation>Supportdateien (*.bin)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
     </message>
@@ -3818,6 +3866,705 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
         <location line="+12"/>
         <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
         <translation>Achtung: Sie verwenden ein Kameramodell, das von der aktuellen Treiberversion nicht mehr unterstützt wird.</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileDialog</name>
+    <message>
+        <location filename="../../src/supportfile/supportfileoutline.cpp" line="+128"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ETH</source>
+        <translation>ETH</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>VPE</source>
+        <translation>VPE</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>No %1 Cameras</source>
+        <translation>Keine %1-Kameras</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Cameras</source>
+        <translation>%1-Kameras</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Used</source>
+        <translation>Benutzt</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Unused</source>
+        <translation>Unbenutzt</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Serial</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>InUse</source>
+        <translation>In Benutzung</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>CamID</source>
+        <translation>Kamera-ID</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+69"/>
+        <location line="+63"/>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location line="-131"/>
+        <location line="+69"/>
+        <location line="+61"/>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <location line="-129"/>
+        <location line="+97"/>
+        <source>Sensor ID</source>
+        <translation>Sensor-ID</translation>
+    </message>
+    <message>
+        <location line="-96"/>
+        <source>Device type</source>
+        <translation>Gerätetyp</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+75"/>
+        <source>Camera temperature</source>
+        <translation>Kameratemperatur</translation>
+    </message>
+    <message>
+        <location line="-74"/>
+        <location line="+70"/>
+        <source>Starter firmware version</source>
+        <translation>Version der Starter-Firmware</translation>
+    </message>
+    <message>
+        <location line="-68"/>
+        <location line="+66"/>
+        <source>Runtime firmware version</source>
+        <translation>Version der Runtime-Firmware</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>Starter libshared version</source>
+        <translation>Version der Starter-libshared</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Runtime libshared version</source>
+        <translation>Version der Runtime-libshared</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memcontent list version</source>
+        <translation>Version der Memcontent-Liste</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cypress SDK version libshared</source>
+        <translation>Cypress-SDK-Version libshared</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cypress SDK version</source>
+        <translation>Cypress-SDK-Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+106"/>
+        <source>Link</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location line="-105"/>
+        <source>Link Speed</source>
+        <translation>Verbindungsgeschwindigkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>High-Speed (USB 2.0)</source>
+        <translation>High-Speed (USB 2.0)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Super-Speed (USB 3.0)</source>
+        <translation>SuperSpeed (USB 3.0)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Missed Heartbeat Counter</source>
+        <translation>Zähler verpasster Heartbeats</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reference Counter</source>
+        <translation>Referenzzähler</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Last ACK message</source>
+        <translation>Letzte ACK-Nachricht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Last received heartbeat</source>
+        <translation>Zuletzt empfangener Heartbeat</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Last received message</source>
+        <translation>Zuletzt empfangene Nachricht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reference Flags</source>
+        <translation>Referenz-Flags</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control State</source>
+        <translation>Steuerungsstatus</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+40"/>
+        <source>COM Port number</source>
+        <translation>COM-Port-Nummer</translation>
+    </message>
+    <message>
+        <location line="-39"/>
+        <location line="+14"/>
+        <source>Local driver</source>
+        <translation>Lokaler Treiber</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>USB version</source>
+        <translation>USB-Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+14"/>
+        <source>Min. compatible starter FW</source>
+        <translation>Min. kompatible Starter-FW</translation>
+    </message>
+    <message>
+        <location line="-12"/>
+        <location line="+14"/>
+        <source>Max. compatible starter FW</source>
+        <translation>Max. kompatible Starter-FW</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>ETH version</source>
+        <translation>ETH-Version</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Transfer</source>
+        <translation>Übertragung</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Failsafe firmware version</source>
+        <translation>Version der Failsafe-Firmware</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>User EEPROM (8 chars)</source>
+        <translation>Benutzer-EEPROM (8 Zeichen)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>hardware revision</source>
+        <translation>Hardware-Revision</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>last message ID</source>
+        <translation>ID der letzten Nachricht</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>last heartbeat message ID</source>
+        <translation>ID der letzten Heartbeat-Nachricht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>last ACK message ID</source>
+        <translation>ID der letzten ACK-Nachricht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>missed heartbeats</source>
+        <translation>verpasste Heartbeats</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>watchdog skip count</source>
+        <translation>Anzahl übersprungener Watchdog-Zyklen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>reference flags</source>
+        <translation>Referenz-Flags</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>atomic reference count</source>
+        <translation>atomarer Referenzzähler</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>deviceinfo flags</source>
+        <translation>Deviceinfo-Flags</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Device statusflags</source>
+        <translation>Gerätestatus-Flags</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control statusflags</source>
+        <translation>Steuerungsstatus-Flags</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Image memory size</source>
+        <translation>Größe des Bildspeichers</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Temperature sensor</source>
+        <translation>Temperatursensor</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>invalid - temp. sensor defect!</source>
+        <translation>ungültig - Temperatursensor defekt!</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>invalid - temp. sensor to high!</source>
+        <translation>ungültig - Temperatur am Sensor zu hoch!</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+31"/>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <location line="+31"/>
+        <source>MAC address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <source>Current IP address</source>
+        <translation>Aktuelle IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address</source>
+        <translation>Persistente IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP subnetmask</source>
+        <translation>Persistente IP-Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+29"/>
+        <source>IP range begin</source>
+        <translation>Beginn des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <location line="+29"/>
+        <source>IP range end</source>
+        <translation>Ende des IP-Bereichs</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <source>Paired host MAC</source>
+        <translation>MAC des gekoppelten Hosts</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Paired host IP</source>
+        <translation>IP des gekoppelten Hosts</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Multicast IP</source>
+        <translation>Multicast-IP</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Local network adapter</source>
+        <translation>Lokaler Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Designation</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver version</source>
+        <translation>Treiberversion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver date</source>
+        <translation>Treiberdatum</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP enabled</source>
+        <translation>DHCP aktiviert</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of known devices</source>
+        <translation>Anzahl bekannter Geräte</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Number of paired devices</source>
+        <translation>Anzahl gekoppelter Geräte</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP subnetmask</source>
+        <translation>IP-Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>IP range valid</source>
+        <translation>IP-Bereich gültig</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Packetfilter</source>
+        <translation>Paketfilter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Passive Multicast</source>
+        <translation>Passiver Multicast</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Debug info</source>
+        <translation>Debug-Informationen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved heartbeat</source>
+        <translation>Reserviert (Heartbeat)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved device</source>
+        <translation>Reserviert (Gerät)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reserved adapter</source>
+        <translation>Reserviert (Adapter)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved driver</source>
+        <translation>Reserviert (Treiber)</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Drivers</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Path:</source>
+        <translation>Pfad:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File Version:</source>
+        <translation>Dateiversion:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+20"/>
+        <source>Product Version:</source>
+        <translation>Produktversion:</translation>
+    </message>
+    <message>
+        <location line="-8"/>
+        <source>System Information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Product name:</source>
+        <translation>Produktname:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Architecture:</source>
+        <translation>Architektur:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Build-Arch:</source>
+        <translation>Build-Architektur:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hostname:</source>
+        <translation>Hostname:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Number of Processors:</source>
+        <translation>Anzahl der Prozessoren:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Active Processors:</source>
+        <translation>Aktive Prozessoren:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OS Version Info:</source>
+        <translation>Betriebssystemversion:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Network adapter</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Driver Info:</source>
+        <translation>Treiberinformationen:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver Version: </source>
+        <translation>Treiberversion: </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver Date:</source>
+        <translation>Treiberdatum:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>MAC:</source>
+        <translation>MAC:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP Address:</source>
+        <translation>IP-Adresse:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Subnetmask:</source>
+        <translation>Subnetzmaske:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP:</source>
+        <translation>DHCP:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>USB Controller</source>
+        <translation>USB-Controller</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Parvel Summit compatibility mode</source>
+        <translation>Parvel-Summit-Kompatibilitätsmodus</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabled:</source>
+        <translation>Aktiviert:</translation>
+    </message>
+    <message>
+        <location filename="../../src/supportfile/widgets/supportfiledialog.cpp" line="+25"/>
+        <source>Support file %1</source>
+        <translation>Supportdatei %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Shown is what could be read before.</source>
+        <translation>Angezeigt wird, was bis dahin gelesen werden konnte.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Serial numbers, MAC addresses and the host name in this file are pseudonyms.</source>
+        <translation>Seriennummern, MAC-Adressen und der Hostname in dieser Datei sind Pseudonyme.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+59"/>
+        <location line="+6"/>
+        <source>Export as INI</source>
+        <translation>Als INI exportieren</translation>
+    </message>
+    <message>
+        <location line="-63"/>
+        <location line="+57"/>
+        <location line="+6"/>
+        <source>Export as JSON</source>
+        <translation>Als JSON exportieren</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>INI file (*.ini)</source>
+        <translation>INI-Datei (*.ini)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>JSON file (*.json)</source>
+        <translation>JSON-Datei (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileReader</name>
+    <message>
+        <location filename="../../src/supportfile/supportfilereader.cpp" line="+40"/>
+        <source>The support file %1 can&apos;t be opened: %2.</source>
+        <translation>Die Supportdatei %1 kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 is too large to be a support file (%2 bytes).</source>
+        <translation>%1 ist zu groß für eine Supportdatei (%2 Byte).</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The support file %1 is empty.</source>
+        <translation>Die Supportdatei %1 ist leer.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The support file %1 is damaged: line %2 is not a number from 0 to 65535.</source>
+        <translation>Die Supportdatei %1 ist beschädigt: Zeile %2 ist keine Zahl von 0 bis 65535.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The support file %1 is damaged: line %2 of its text is not a section or a key (%3).</source>
+        <translation>Die Supportdatei %1 ist beschädigt: Zeile %2 ihres Textes ist weder ein Abschnitt noch ein Schlüssel (%3).</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>The support file %1 holds no sections.</source>
+        <translation>Die Supportdatei %1 enthält keine Abschnitte.</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileSaveDialog</name>
+    <message>
+        <location filename="../../src/supportfile/widgets/supportfilesavedialog.cpp" line="+7"/>
+        <source>Save support file</source>
+        <translation>Supportdatei speichern</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Support file (*.bin)</source>
+        <translation>Supportdatei (*.bin)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Replace serial numbers, MAC addresses and the host name by pseudonyms</source>
+        <translation>Seriennummern, MAC-Adressen und den Hostnamen durch Pseudonyme ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileWriter</name>
+    <message>
+        <location filename="../../src/supportfile/supportfilewriter.cpp" line="+64"/>
+        <source>Hub</source>
+        <translation>Hub</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Controller</source>
+        <translation>Controller</translation>
+    </message>
+    <message>
+        <location line="+103"/>
+        <source>The support file %1 can&apos;t be written: %2.</source>
+        <translation>Die Supportdatei %1 kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>

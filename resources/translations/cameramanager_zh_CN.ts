@@ -1241,7 +1241,7 @@ The value could not be read back.</source>
 <context>
     <name>ControlArea</name>
     <message>
-        <location filename="../../src/app/widgets/controlarea.cpp" line="+84"/>
+        <location filename="../../src/app/widgets/controlarea.cpp" line="+86"/>
         <source>Control area</source>
         <translation>控制区</translation>
     </message>
@@ -1377,7 +1377,7 @@ The value could not be read back.</source>
         <translation>值</translation>
     </message>
     <message>
-        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+110"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+88"/>
         <source>Starter firmware version</source>
         <translation>启动固件版本</translation>
     </message>
@@ -1387,7 +1387,7 @@ The value could not be read back.</source>
         <translation>运行时固件版本</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+23"/>
         <source>%1. Hub</source>
         <translation>第 %1 级集线器</translation>
     </message>
@@ -1413,37 +1413,37 @@ The value could not be read back.</source>
     </message>
     <message>
         <location line="+5"/>
-        <location line="+50"/>
+        <location line="+51"/>
         <location line="+36"/>
         <source>Device</source>
         <translation>设备</translation>
     </message>
     <message>
-        <location line="-85"/>
-        <location line="+48"/>
+        <location line="-86"/>
+        <location line="+49"/>
         <location line="+38"/>
         <source>General</source>
         <translation>常规</translation>
     </message>
     <message>
-        <location line="-84"/>
+        <location line="-85"/>
         <source>User EEPROM (8 chars)</source>
         <translation>用户 EEPROM（8 个字符）</translation>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+88"/>
+        <location line="+89"/>
         <source>COM port number</source>
         <translation>COM 端口号</translation>
     </message>
     <message>
-        <location line="-87"/>
-        <location line="+85"/>
+        <location line="-88"/>
+        <location line="+86"/>
         <source>Camera temperature</source>
         <translation>相机温度</translation>
     </message>
     <message>
-        <location line="-84"/>
+        <location line="-85"/>
         <source>Device status flags</source>
         <translation>设备状态标志</translation>
     </message>
@@ -1459,34 +1459,34 @@ The value could not be read back.</source>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+78"/>
+        <location line="+79"/>
         <source>Sensor ID</source>
         <translation>传感器 ID</translation>
     </message>
     <message>
-        <location line="-77"/>
+        <location line="-78"/>
         <source>Image memory size</source>
         <translation>图像存储器大小</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="+106"/>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
     <message>
-        <location line="+7"/>
-        <location line="+43"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+8"/>
+        <location line="+44"/>
         <source>Network</source>
         <translation>网络</translation>
     </message>
     <message>
-        <location line="-42"/>
-        <location line="+43"/>
+        <location line="-43"/>
+        <location line="+44"/>
         <source>MAC address</source>
         <translation>MAC 地址</translation>
     </message>
     <message>
-        <location line="-42"/>
+        <location line="-43"/>
         <source>Current IP address</source>
         <translation>当前 IP 地址</translation>
     </message>
@@ -1542,18 +1542,18 @@ The value could not be read back.</source>
     </message>
     <message>
         <location line="+1"/>
-        <location line="+31"/>
+        <location line="+32"/>
         <source>IP range begin</source>
         <translation>IP 范围起始地址</translation>
     </message>
     <message>
-        <location line="-30"/>
-        <location line="+32"/>
+        <location line="-31"/>
+        <location line="+33"/>
         <source>IP range end</source>
         <translation>IP 范围结束地址</translation>
     </message>
     <message>
-        <location line="-31"/>
+        <location line="-32"/>
         <source>Paired host MAC address</source>
         <translation>已配对主机的 MAC 地址</translation>
     </message>
@@ -1573,12 +1573,12 @@ The value could not be read back.</source>
         <translation>链路</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="-5"/>
         <source>%1 Mbits/s</source>
         <translation>%1 Mbit/s</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location filename="../../src/details/deviceinfotreebuilder.cpp" line="+7"/>
         <source>Local network adapter</source>
         <translation>本地网络适配器</translation>
     </message>
@@ -1683,7 +1683,7 @@ The value could not be read back.</source>
         <translation>最高兼容启动固件</translation>
     </message>
     <message>
-        <location filename="../../src/details/devicevaluerenderer.cpp" line="+24"/>
+        <location filename="../../src/details/devicevaluerenderer.cpp" line="-64"/>
         <source>Invalid - temperature sensor defect!</source>
         <translation>无效 - 温度传感器故障！</translation>
     </message>
@@ -1693,7 +1693,7 @@ The value could not be read back.</source>
         <translation>无效 - 温度传感器读数过高！</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>High Speed (USB 2.0)</source>
         <translation>高速 (USB 2.0)</translation>
     </message>
@@ -1941,6 +1941,39 @@ The value could not be read back.</source>
         <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
         <source>Copy item values</source>
         <translation>复制条目值</translation>
+    </message>
+</context>
+<context>
+    <name>DriverComponentInventory</name>
+    <message>
+        <location filename="../../src/sysinfo/drivercomponentinventory.cpp" line="+19"/>
+        <source>not installed</source>
+        <translation>未安装</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>not running</source>
+        <translation>未运行</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>no access to the service manager</source>
+        <translation>无法访问服务管理器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>%1 (simulated)</source>
+        <translation>%1（模拟）</translation>
     </message>
 </context>
 <context>
@@ -3001,7 +3034,7 @@ It has too many values or too long names.</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+253"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+261"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -3093,7 +3126,22 @@ This operation may take up to 10 seconds.</source>
         <translation>设备 %1：固件上传成功。相机现在运行启动固件 %2。</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+34"/>
+        <source>Save support file</source>
+        <translation>保存支持文件</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Support file</source>
+        <translation>支持文件</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Support files (*.bin)</source>
+        <translation>支持文件 (*.bin)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
     </message>
@@ -3816,6 +3864,705 @@ An automatic upload will be initiated next time you open the camera. This upload
         <location line="+12"/>
         <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
         <translation>注意：您使用的相机型号已不再受当前驱动程序版本支持。</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileDialog</name>
+    <message>
+        <location filename="../../src/supportfile/supportfileoutline.cpp" line="+128"/>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>ETH</source>
+        <translation>ETH</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>VPE</source>
+        <translation>VPE</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>No %1 Cameras</source>
+        <translation>无 %1 相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Cameras</source>
+        <translation>%1 相机</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Used</source>
+        <translation>已使用</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Unused</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Serial</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>InUse</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>CamID</source>
+        <translation>相机 ID</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+69"/>
+        <location line="+63"/>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <location line="-131"/>
+        <location line="+69"/>
+        <location line="+61"/>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <location line="-129"/>
+        <location line="+97"/>
+        <source>Sensor ID</source>
+        <translation>传感器 ID</translation>
+    </message>
+    <message>
+        <location line="-96"/>
+        <source>Device type</source>
+        <translation>设备类型</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+75"/>
+        <source>Camera temperature</source>
+        <translation>相机温度</translation>
+    </message>
+    <message>
+        <location line="-74"/>
+        <location line="+70"/>
+        <source>Starter firmware version</source>
+        <translation>启动固件版本</translation>
+    </message>
+    <message>
+        <location line="-68"/>
+        <location line="+66"/>
+        <source>Runtime firmware version</source>
+        <translation>运行时固件版本</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>Starter libshared version</source>
+        <translation>启动 libshared 版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Runtime libshared version</source>
+        <translation>运行时 libshared 版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memcontent list version</source>
+        <translation>Memcontent 列表版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cypress SDK version libshared</source>
+        <translation>Cypress SDK 版本 libshared</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cypress SDK version</source>
+        <translation>Cypress SDK 版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+106"/>
+        <source>Link</source>
+        <translation>链路</translation>
+    </message>
+    <message>
+        <location line="-105"/>
+        <source>Link Speed</source>
+        <translation>链路速度</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>High-Speed (USB 2.0)</source>
+        <translation>高速 (USB 2.0)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Super-Speed (USB 3.0)</source>
+        <translation>超高速 (USB 3.0)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Missed Heartbeat Counter</source>
+        <translation>丢失心跳计数器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reference Counter</source>
+        <translation>引用计数器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Last ACK message</source>
+        <translation>最后一条 ACK 消息</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Last received heartbeat</source>
+        <translation>最后接收的心跳</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Last received message</source>
+        <translation>最后接收的消息</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Reference Flags</source>
+        <translation>引用标志</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control State</source>
+        <translation>控制状态</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+40"/>
+        <source>COM Port number</source>
+        <translation>COM 端口号</translation>
+    </message>
+    <message>
+        <location line="-39"/>
+        <location line="+14"/>
+        <source>Local driver</source>
+        <translation>本地驱动程序</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>USB version</source>
+        <translation>USB 版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+14"/>
+        <source>Min. compatible starter FW</source>
+        <translation>最低兼容启动固件</translation>
+    </message>
+    <message>
+        <location line="-12"/>
+        <location line="+14"/>
+        <source>Max. compatible starter FW</source>
+        <translation>最高兼容启动固件</translation>
+    </message>
+    <message>
+        <location line="-3"/>
+        <source>ETH version</source>
+        <translation>ETH 版本</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Transfer</source>
+        <translation>传输</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Failsafe firmware version</source>
+        <translation>故障安全固件版本</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>User EEPROM (8 chars)</source>
+        <translation>用户 EEPROM（8 个字符）</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>hardware revision</source>
+        <translation>硬件版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>last message ID</source>
+        <translation>最后一条消息 ID</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>last heartbeat message ID</source>
+        <translation>最后一条心跳消息 ID</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>last ACK message ID</source>
+        <translation>最后一条 ACK 消息 ID</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>missed heartbeats</source>
+        <translation>丢失的心跳</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>watchdog skip count</source>
+        <translation>看门狗跳过计数</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>reference flags</source>
+        <translation>引用标志</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>atomic reference count</source>
+        <translation>原子引用计数</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>deviceinfo flags</source>
+        <translation>deviceinfo 标志</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Device statusflags</source>
+        <translation>设备状态标志</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Control statusflags</source>
+        <translation>控制状态标志</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Hardware</source>
+        <translation>硬件</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Image memory size</source>
+        <translation>图像存储器大小</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Temperature sensor</source>
+        <translation>温度传感器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>invalid - temp. sensor defect!</source>
+        <translation>无效 - 温度传感器故障！</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>invalid - temp. sensor to high!</source>
+        <translation>无效 - 温度传感器读数过高！</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <location line="+31"/>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <location line="+31"/>
+        <source>MAC address</source>
+        <translation>MAC 地址</translation>
+    </message>
+    <message>
+        <location line="-30"/>
+        <source>Current IP address</source>
+        <translation>当前 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP address</source>
+        <translation>持久 IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Persistent IP subnetmask</source>
+        <translation>持久 IP 子网掩码</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <location line="+29"/>
+        <source>IP range begin</source>
+        <translation>IP 范围起始地址</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <location line="+29"/>
+        <source>IP range end</source>
+        <translation>IP 范围结束地址</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <source>Paired host MAC</source>
+        <translation>已配对主机的 MAC</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Paired host IP</source>
+        <translation>已配对主机的 IP</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Multicast IP</source>
+        <translation>组播 IP</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Local network adapter</source>
+        <translation>本地网络适配器</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Designation</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver version</source>
+        <translation>驱动程序版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver date</source>
+        <translation>驱动程序日期</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP enabled</source>
+        <translation>DHCP 已启用</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of known devices</source>
+        <translation>已知设备数</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Number of paired devices</source>
+        <translation>已配对设备数</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP subnetmask</source>
+        <translation>IP 子网掩码</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>IP range valid</source>
+        <translation>IP 范围有效</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Packetfilter</source>
+        <translation>数据包过滤器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Passive Multicast</source>
+        <translation>被动组播</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Debug info</source>
+        <translation>调试信息</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Statistics</source>
+        <translation>统计信息</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved heartbeat</source>
+        <translation>保留（心跳）</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved device</source>
+        <translation>保留（设备）</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reserved adapter</source>
+        <translation>保留（适配器）</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Reserved driver</source>
+        <translation>保留（驱动程序）</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Drivers</source>
+        <translation>驱动程序</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Path:</source>
+        <translation>路径：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File Version:</source>
+        <translation>文件版本：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+20"/>
+        <source>Product Version:</source>
+        <translation>产品版本：</translation>
+    </message>
+    <message>
+        <location line="-8"/>
+        <source>System Information</source>
+        <translation>系统信息</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Product name:</source>
+        <translation>产品名称：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Architecture:</source>
+        <translation>架构：</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Build-Arch:</source>
+        <translation>构建架构：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hostname:</source>
+        <translation>主机名：</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Number of Processors:</source>
+        <translation>处理器数量：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Active Processors:</source>
+        <translation>活动处理器：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>OS Version Info:</source>
+        <translation>操作系统版本信息：</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Network adapter</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Driver Info:</source>
+        <translation>驱动程序信息：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver Version: </source>
+        <translation>驱动程序版本： </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver Date:</source>
+        <translation>驱动程序日期：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>MAC:</source>
+        <translation>MAC：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IP Address:</source>
+        <translation>IP 地址：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Subnetmask:</source>
+        <translation>子网掩码：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DHCP:</source>
+        <translation>DHCP：</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>USB Controller</source>
+        <translation>USB 控制器</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Parvel Summit compatibility mode</source>
+        <translation>Parvel Summit 兼容模式</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enabled:</source>
+        <translation>已启用：</translation>
+    </message>
+    <message>
+        <location filename="../../src/supportfile/widgets/supportfiledialog.cpp" line="+25"/>
+        <source>Support file %1</source>
+        <translation>支持文件 %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Shown is what could be read before.</source>
+        <translation>显示的是此前能够读取的内容。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Serial numbers, MAC addresses and the host name in this file are pseudonyms.</source>
+        <translation>此文件中的序列号、MAC 地址和主机名均为化名。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+59"/>
+        <location line="+6"/>
+        <source>Export as INI</source>
+        <translation>导出为 INI</translation>
+    </message>
+    <message>
+        <location line="-63"/>
+        <location line="+57"/>
+        <location line="+6"/>
+        <source>Export as JSON</source>
+        <translation>导出为 JSON</translation>
+    </message>
+    <message>
+        <location line="-15"/>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>INI file (*.ini)</source>
+        <translation>INI 文件 (*.ini)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>JSON file (*.json)</source>
+        <translation>JSON 文件 (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileReader</name>
+    <message>
+        <location filename="../../src/supportfile/supportfilereader.cpp" line="+40"/>
+        <source>The support file %1 can&apos;t be opened: %2.</source>
+        <translation>无法打开支持文件 %1：%2。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 is too large to be a support file (%2 bytes).</source>
+        <translation>%1 太大，不可能是支持文件（%2 字节）。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The support file %1 is empty.</source>
+        <translation>支持文件 %1 为空。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The support file %1 is damaged: line %2 is not a number from 0 to 65535.</source>
+        <translation>支持文件 %1 已损坏：第 %2 行不是 0 到 65535 之间的数字。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The support file %1 is damaged: line %2 of its text is not a section or a key (%3).</source>
+        <translation>支持文件 %1 已损坏：其文本的第 %2 行既不是节也不是键（%3）。</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>The support file %1 holds no sections.</source>
+        <translation>支持文件 %1 不包含任何节。</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileSaveDialog</name>
+    <message>
+        <location filename="../../src/supportfile/widgets/supportfilesavedialog.cpp" line="+7"/>
+        <source>Save support file</source>
+        <translation>保存支持文件</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Support file (*.bin)</source>
+        <translation>支持文件 (*.bin)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Replace serial numbers, MAC addresses and the host name by pseudonyms</source>
+        <translation>用化名替换序列号、MAC 地址和主机名</translation>
+    </message>
+</context>
+<context>
+    <name>SupportFileWriter</name>
+    <message>
+        <location filename="../../src/supportfile/supportfilewriter.cpp" line="+64"/>
+        <source>Hub</source>
+        <translation>集线器</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <location line="+103"/>
+        <source>The support file %1 can&apos;t be written: %2.</source>
+        <translation>无法写入支持文件 %1：%2。</translation>
     </message>
 </context>
 <context>
