@@ -420,7 +420,7 @@
 <context>
     <name>AdditionalFunctions</name>
     <message>
-        <location filename="../../src/driver/bootboost.cpp" line="+30"/>
+        <location filename="../../src/driver/bootboost.cpp" line="+27"/>
         <source>Could not read the boot boost state: %1</source>
         <translation>Der Boot-Boost-Zustand konnte nicht gelesen werden: %1</translation>
     </message>
@@ -435,7 +435,7 @@
         <translation>Boot Boost konnte nicht ausgeschaltet werden: %1</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+17"/>
         <source>Could not clear the boot boost list: %1</source>
         <translation>Die Boot-Boost-Liste konnte nicht geleert werden: %1</translation>
     </message>
@@ -447,7 +447,7 @@
         <translation>Die Boot-Boost-Liste konnte nicht gelesen werden: %1</translation>
     </message>
     <message>
-        <location filename="../../src/driver/driverconfiguration.cpp" line="+71"/>
+        <location filename="../../src/driver/driverconfiguration.cpp" line="+68"/>
         <source>Setting read-only multicast failed with code: %1</source>
         <translation>Das Einstellen von Nur-Lese-Multicast ist mit Code %1 fehlgeschlagen</translation>
     </message>

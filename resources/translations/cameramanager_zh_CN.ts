@@ -420,7 +420,7 @@
 <context>
     <name>AdditionalFunctions</name>
     <message>
-        <location filename="../../src/driver/bootboost.cpp" line="+30"/>
+        <location filename="../../src/driver/bootboost.cpp" line="+27"/>
         <source>Could not read the boot boost state: %1</source>
         <translation>无法读取启动加速状态：%1</translation>
     </message>
@@ -435,7 +435,7 @@
         <translation>无法禁用启动加速：%1</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+17"/>
         <source>Could not clear the boot boost list: %1</source>
         <translation>无法清空启动加速列表：%1</translation>
     </message>
@@ -447,7 +447,7 @@
         <translation>无法读取启动加速列表：%1</translation>
     </message>
     <message>
-        <location filename="../../src/driver/driverconfiguration.cpp" line="+71"/>
+        <location filename="../../src/driver/driverconfiguration.cpp" line="+68"/>
         <source>Setting read-only multicast failed with code: %1</source>
         <translation>设置只读组播失败，代码：%1</translation>
     </message>

@@ -80,19 +80,19 @@ Result finishUpload(SimDriver& driver, std::uint32_t deviceId, std::uint32_t& ha
 Result openDevice(SimDriver& driver, std::uint32_t deviceId, bool uploadRequested, std::uint32_t& handle)
 {
     bool uploading = false;
-    std::uint8_t typeCode = 0;
+    std::chrono::milliseconds duration{0};
     Result result = driver.change([&](Fleet& fleet) {
         SimCamera* camera = fleet.visible(deviceId);
         if (!camera)
             return failure(PV_ERR_UNKNOWN_DEVICE, "no camera with device ID " + std::to_string(deviceId));
         if (Result r = checkOpenable(*camera); !r.ok())
             return r;
-        typeCode = camera->typeCode;
         const bool autoUpload = camera->kind == CameraKind::Eth && (camera->deviceFlags & PV_DEVFLAG_UPLOAD_PENDING)
                                 && fleet.settings.registryFlag("cirro_eth", "AllowAutoStarterFwUpload");
         if (uploadRequested || autoUpload) {
             uploading = true;
-            return startUpload(*camera, fleet.settings, driver.scaled(firmwareUploadDuration(typeCode)));
+            duration = driver.scaled(firmwareUploadDuration(camera->typeCode));
+            return startUpload(*camera, fleet.settings, duration);
         }
         if (camera->isEthernet() && !(camera->deviceControl & PV_CONTROL_AVAILABLE))
             return failure(PV_ERR_DEVICE_UNREACHABLE, "camera " + std::to_string(deviceId) + " can't be reached");
@@ -102,7 +102,6 @@ Result openDevice(SimDriver& driver, std::uint32_t deviceId, bool uploadRequeste
     if (!result.ok() || !uploading)
         return result;
 
-    const auto duration = driver.scaled(firmwareUploadDuration(typeCode));
     driver.tracer().trace(serviceOfDevice(deviceId), TraceCategory::firmware, [&] {
         return "starter firmware upload to device " + std::to_string(deviceId) + " started, "
                + std::to_string(duration.count()) + " ms";

@@ -1,5 +1,7 @@
 #include "driver/bootboost.h"
 
+#include "driver/driverresult.h"
+
 #include "cirro_api.h"
 
 #include <QCoreApplication>
@@ -9,11 +11,6 @@ namespace BootBoost {
 namespace {
 
 constexpr quint32 maximumCount = 1024;
-
-Result failed(std::int32_t code, const char* text)
-{
-    return {code, QCoreApplication::translate("AdditionalFunctions", text).arg(code)};
-}
 
 std::int32_t send(std::uint32_t command, void* buffer = nullptr, std::uint32_t size = 0)
 {
@@ -27,7 +24,7 @@ Result readEnabled(bool& enabled)
     quint32 word = 0;
     const std::int32_t code = send(PV_BOOTBOOST_GET_ENABLED, &word, sizeof word);
     enabled = code == PV_OK && word != 0;
-    return code == PV_OK ? Result() : failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost state: %1"));
+    return driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost state: %1"));
 }
 
 Result setEnabled(bool enabled)
@@ -35,8 +32,8 @@ Result setEnabled(bool enabled)
     const std::int32_t code = send(enabled ? PV_BOOTBOOST_ENABLE : PV_BOOTBOOST_DISABLE);
     if (code == PV_OK)
         return {};
-    return enabled ? failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not enable boot boost: %1"))
-                   : failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not disable boot boost: %1"));
+    return enabled ? driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not enable boot boost: %1"))
+                   : driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not disable boot boost: %1"));
 }
 
 std::uint32_t command(Change change)
@@ -53,8 +50,7 @@ Result change(Change change, std::uint8_t id)
 Result clear()
 {
     const std::int32_t code = send(PV_BOOTBOOST_CLEAR_IDS);
-    return code == PV_OK ? Result()
-                         : failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not clear the boot boost list: %1"));
+    return driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not clear the boot boost list: %1"));
 }
 
 Result readIds(std::vector<std::uint8_t>& ids)
@@ -63,14 +59,14 @@ Result readIds(std::vector<std::uint8_t>& ids)
     quint32 count = 0;
     std::int32_t code = send(PV_BOOTBOOST_GET_ID_COUNT, &count, sizeof count);
     if (code != PV_OK || count == 0)
-        return code == PV_OK ? Result() : failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
+        return driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
     // More entries than there are IDs is no list but a fault of the driver.
     if (count > maximumCount)
-        return failed(PV_ERR_GENERAL, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
+        return driverResult(PV_ERR_GENERAL, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
     std::vector<std::uint8_t> read(count);
     code = send(PV_BOOTBOOST_GET_IDS, read.data(), count);
     if (code != PV_OK)
-        return failed(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
+        return driverResult(code, QT_TRANSLATE_NOOP("AdditionalFunctions", "Could not read the boot boost list: %1"));
     ids = std::move(read);
     return {};
 }

@@ -1,5 +1,7 @@
 #include "driver/driverconfiguration.h"
 
+#include "driver/driverresult.h"
+
 #include "cirro_api.h"
 
 #include <QCoreApplication>
@@ -32,11 +34,6 @@ Result codeOnly(std::int32_t code)
     return code == PV_OK ? Result() : Result(code, QString());
 }
 
-Result failed(std::int32_t code, const char* text)
-{
-    return code == PV_OK ? Result() : Result(code, QCoreApplication::translate("AdditionalFunctions", text).arg(code));
-}
-
 } // namespace
 
 namespace DriverConfiguration {
@@ -67,18 +64,18 @@ Result readReadOnlyMulticast(bool& enabled)
 Result writeReadOnlyMulticast(bool enabled)
 {
     quint32 flag = enabled ? 1 : 0;
-    return failed(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_SET_READONLY_MULTICAST, &flag, sizeof flag),
+    return driverResult(pv_EthConfig(PV_DRIVER_HANDLE, PV_ETHSVC_SET_READONLY_MULTICAST, &flag, sizeof flag),
                   QT_TRANSLATE_NOOP("AdditionalFunctions", "Setting read-only multicast failed with code: %1"));
 }
 
 Result fetchRegistryValues()
 {
-    return failed(pv_FetchRegistryValues(), QT_TRANSLATE_NOOP("AdditionalFunctions", "pv_FetchRegistryValues() returned %1"));
+    return driverResult(pv_FetchRegistryValues(), QT_TRANSLATE_NOOP("AdditionalFunctions", "pv_FetchRegistryValues() returned %1"));
 }
 
 Result fetchTcpIp()
 {
-    return failed(pv_FetchTcpIp(), QT_TRANSLATE_NOOP("AdditionalFunctions", "onFetchTcpIp() returned %1"));
+    return driverResult(pv_FetchTcpIp(), QT_TRANSLATE_NOOP("AdditionalFunctions", "onFetchTcpIp() returned %1"));
 }
 
 } // namespace DriverConfiguration
@@ -92,7 +89,7 @@ Result change(quint32 bit, bool disabled)
     Result result = DriverConfiguration::read(Word::IdleStates, word);
     if (result.isSuccess())
         result = DriverConfiguration::write(Word::IdleStates, disabled ? word | bit : word & ~bit);
-    return failed(result.code(), QT_TRANSLATE_NOOP("AdditionalFunctions", "Failed to set Idle state! Return code: %1"));
+    return driverResult(result.code(), QT_TRANSLATE_NOOP("AdditionalFunctions", "Failed to set Idle state! Return code: %1"));
 }
 
 } // namespace IdleStates

@@ -588,7 +588,7 @@ void QCirroCameramanager::onWriteSupportFile()
         return;
     m_cameraList->setAutoRefresh(false);
     const auto revision = [](const Camera& camera) { return CameraRevision::query(camera.deviceId()); };
-    QSettings settings(UserSettings::organisation(), UserSettings::application());
+    QSettings settings = UserSettings::open();
     const Result saved = SupportFileWalk::writeFile(
         answer->path, SupportFileSources::gather(m_cameraList->model()->cameraList(), *m_services, revision),
         answer->redact ? std::optional<QByteArray>(SupportFileRedaction::installationSecret(settings)) : std::nullopt);
