@@ -34,6 +34,7 @@
 #include "supportfile/supportfilewalk.h"
 #include "supportfile/widgets/supportfiledialog.h"
 #include "supportfile/widgets/supportfilesavedialog.h"
+#include "sysinfo/widgets/generalinfodlg.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -220,6 +221,7 @@ void QCirroCameramanager::registerCommands()
     m_commands->handleRequest(Command::CameraInformation, m_cameraList, &CameraList::openCameraInfo, this,
                               &QCirroCameramanager::openCameraInfoDialog);
     m_commands->setHandler(Command::AdditionalCameraInformation, [this] { onAddCameraInfo(); });
+    m_commands->setHandler(Command::GeneralInformation, [this] { onGeneralInfo(); });
     m_commands->setHandler(Command::SupportFile, [this] { onWriteSupportFile(); });
     m_commands->setHandler(Command::ReadSupportFile, [this] { onReadSupportFile(); });
     m_commands->handleRequest(Command::OpenCamera, m_cameraList, &CameraList::openCamera, this,
@@ -395,6 +397,12 @@ void QCirroCameramanager::onAddCameraInfo()
     if (!camera || !ControlStates::qualifiesForAdditionalCameraInformation(*camera))
         return;
     AdditionalCameraInfo dialog(*camera, this);
+    dialog.exec();
+}
+
+void QCirroCameramanager::onGeneralInfo()
+{
+    GeneralInfoDlg dialog(currentLanguage(), *m_services, this);
     dialog.exec();
 }
 

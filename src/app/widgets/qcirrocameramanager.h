@@ -71,6 +71,7 @@ public slots:
     void OnCameraInfoDlg();
     void openCameraInfoDialog(const Camera& camera);
     void onAddCameraInfo();
+    void onGeneralInfo();
     void onOpenCamera(const QList<Camera>& cameras);
     void onIdentifyCamera(const Camera& camera);
     void onManualEthConfig();

@@ -1,6 +1,6 @@
 #include "dialogs/widgets/camerainfo.h"
 
-#include "common/usersettings.h"
+#include "common/widgets/tabbeddialogstate.h"
 #include "dialogs/maintenancecapabilities.h"
 #include "dialogs/openedcamera.h"
 #include "dialogs/widgets/camerainfoeeprompage.h"
@@ -12,18 +12,12 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QMessageBox>
-#include <QSettings>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 const QString settingsGroup = QStringLiteral("cameraInfo");
-
-QSettings settings()
-{
-    return UserSettings::open();
-}
 
 } // namespace
 
@@ -109,21 +103,10 @@ void CameraInfo::addPage(CameraInfoPage* page)
 
 void CameraInfo::restoreSettings()
 {
-    QSettings stored = settings();
-    stored.beginGroup(settingsGroup);
-    restoreGeometry(stored.value(QStringLiteral("geometry")).toByteArray());
-    const QString last = stored.value(QStringLiteral("lastPage")).toString();
-    for (int i = 0; i < m_pages->count(); ++i) {
-        if (m_pages->widget(i)->objectName() == last)
-            m_pages->setCurrentIndex(i);
-    }
+    TabbedDialogState::restore(*this, *m_pages, settingsGroup);
 }
 
 void CameraInfo::saveSettings() const
 {
-    QSettings stored = settings();
-    stored.beginGroup(settingsGroup);
-    stored.setValue(QStringLiteral("geometry"), saveGeometry());
-    if (const QWidget* page = m_pages->currentWidget())
-        stored.setValue(QStringLiteral("lastPage"), page->objectName());
+    TabbedDialogState::save(*this, *m_pages, settingsGroup);
 }

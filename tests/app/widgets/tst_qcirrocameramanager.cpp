@@ -81,7 +81,8 @@ private slots:
     void printerHonoursTheMessagesFlag();
     void selectionFillsTheStatusLines_data();
     void selectionFillsTheStatusLines();
-    void commandsWithoutTheirFeatureStayDisabled();
+    void buttonsFollowTheSelectedCamera();
+    void generalInformationOpensModally();
     void firmwareUploadGivesTheCameraTheDriversStarter();
     void failingUploadIsReportedTwice();
     void closingTheWindowWaitsForTheUpload();
@@ -344,12 +345,11 @@ void TestMainWindow::selectionFillsTheStatusLines()
         QVERIFY(second->text().contains("no longer supported"));
 }
 
-void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
+void TestMainWindow::buttonsFollowTheSelectedCamera()
 {
     const auto window = makeWindow();
     select(*window, 1000);
-    for (const char* name : {"generalInformation"})
-        QVERIFY2(!child<QPushButton>(*window, name)->isEnabled(), name);
+    QVERIFY(child<QPushButton>(*window, "generalInformation")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "close")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "ethNetworkService")->isEnabled());
     QVERIFY(child<QPushButton>(*window, "additionalFunctions")->isEnabled());
@@ -369,6 +369,22 @@ void TestMainWindow::commandsWithoutTheirFeatureStayDisabled()
     select(*window, 3);
     QVERIFY(!child<QPushButton>(*window, "cameraInformation")->isEnabled());
     QVERIFY(!child<QPushButton>(*window, "additionalCameraInfo")->isEnabled());
+}
+
+void TestMainWindow::generalInformationOpensModally()
+{
+    const auto window = makeWindow();
+    window->show();
+    QString opened;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        opened = dialog->objectName();
+        dialog->reject();
+    });
+    child<QPushButton>(*window, "generalInformation")->click();
+    QCOMPARE(opened, QStringLiteral("generalInfo"));
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void TestMainWindow::firmwareUploadGivesTheCameraTheDriversStarter()
