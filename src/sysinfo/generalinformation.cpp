@@ -147,7 +147,7 @@ InfoNode GeneralInformation::usbControllersPage(const UsbTopology* topology)
 {
     InfoNode node(tr("USB controllers"));
     if (!topology || topology->controllers().empty()) {
-        node.value = tr("none found");
+        node.value = tr("No USB host controller was found.");
         return node;
     }
     for (const UsbTopology::HostController& host : topology->controllers())
@@ -159,7 +159,7 @@ InfoNode GeneralInformation::networkAdaptersPage(const NetworkAdapterList& adapt
 {
     InfoNode node(tr("Network adapters"));
     if (adapters.isEmpty())
-        node.value = tr("none found");
+        node.value = tr("No network adapter was found.");
     for (int i = 0; i < adapters.size(); ++i)
         node.children << adapter(adapters.at(i), status.value(i));
     return node;

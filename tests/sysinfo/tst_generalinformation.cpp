@@ -105,7 +105,7 @@ void TestGeneralInformation::usbPageFollowsTheTreeToTheCamera()
     QCOMPARE(child(camera, QStringLiteral("Driver")).value, QStringLiteral("cirro_usb, 2.1"));
     QCOMPARE(child(camera, QStringLiteral("Speed")).value, QStringLiteral("5000 Mbit/s"));
 
-    QCOMPARE(GeneralInformation::usbControllersPage(nullptr).value, QStringLiteral("none found"));
+    QCOMPARE(GeneralInformation::usbControllersPage(nullptr).value, QStringLiteral("No USB host controller was found."));
 }
 
 void TestGeneralInformation::adapterPageSaysWhatIsKnown()
@@ -132,7 +132,7 @@ void TestGeneralInformation::adapterPageSaysWhatIsKnown()
     QCOMPARE(child(second, QStringLiteral("IPv4 address")).value, QStringLiteral("no IPv4 address"));
     QCOMPARE(child(second, QStringLiteral("MAC address")).label, QStringLiteral("(no MAC address)"));
 
-    QCOMPARE(GeneralInformation::networkAdaptersPage({}, {}).value, QStringLiteral("none found"));
+    QCOMPARE(GeneralInformation::networkAdaptersPage({}, {}).value, QStringLiteral("No network adapter was found."));
 }
 
 void TestGeneralInformation::driverPageNamesEachKind()
@@ -163,7 +163,7 @@ void TestGeneralInformation::pagesWaitForTheHost()
     QCOMPARE(pages.at(3).value, QStringLiteral("still being read"));
     info.hostRead = true;
     pages = info.pages();
-    QCOMPARE(pages.at(2).value, QStringLiteral("none found"));
+    QCOMPARE(pages.at(2).value, QStringLiteral("No USB host controller was found."));
 }
 
 void TestGeneralInformation::theRunningProgramIsDescribed()

@@ -27,6 +27,10 @@
 #include "supportfile/supportfilesources.h"
 #include "supportfile/supportfilewalk.h"
 #include "supportfile/widgets/supportfiledialog.h"
+#include "sysinfo/widgets/generalinfodlg.h"
+#include "sysinfo/widgets/updatespage.h"
+
+#include "loopbackhttpserver.h"
 
 #include <pvsim.h>
 
@@ -36,6 +40,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -248,6 +253,31 @@ bool shootAdditionalCameraInfo(QCirroCameramanager& window, const QDir& output, 
     return save(dialog, output, name);
 }
 
+bool shootGeneralInfo(QCirroCameramanager& window, const QDir& output)
+{
+    LoopbackHttpServer server;
+    server.route(QStringLiteral("/latest.json"),
+                 {200,
+                  R"({"format": 1, "latestVersion": "4.98.0.0", "downloadPage": "https://downloads.example/cm/",
+                      "notes": {"en": "Faster camera lists; firmware upload for the new models."}})",
+                  {}, true});
+    const std::unique_ptr<ServiceManager> services = ServiceManager::create();
+    GeneralInfoDlg dialog(QStringLiteral("en"), *services, &window);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog) || !QTest::qWaitFor([&] { return !dialog.isReading(); }, 10000))
+        return false;
+    auto* pages = dialog.findChild<QTabWidget*>(QStringLiteral("pages"));
+    bool ok = true;
+    for (int i = 0; i < pages->count(); ++i) {
+        pages->setCurrentIndex(i);
+        ok = save(dialog, output, QStringLiteral("generalinfo-") + pages->widget(i)->objectName().toLower()) && ok;
+    }
+    dialog.findChild<QLineEdit*>(QStringLiteral("updateAddress"))->setText(server.url(QStringLiteral("/latest.json")).toString());
+    dialog.findChild<QPushButton*>(QStringLiteral("checkForUpdates"))->click();
+    ok = QTest::qWaitFor([&] { return !dialog.updatesPage()->check().isRunning(); }, 10000) && ok;
+    return save(dialog, output, QStringLiteral("generalinfo-update-available")) && ok;
+}
+
 // The simulated USB cameras sit on no hub of this machine: the file places
 // the first one ("2-1") on a hub of a made-up controller, so that its path shows.
 std::shared_ptr<const UsbTopology> demoTopology()
@@ -391,6 +421,7 @@ int main(int argc, char* argv[])
     ok = shootAdditionalCameraInfo(window, output, 0, QStringLiteral("additionalcamerainfo-usb")) && ok;
     ok = shootAdditionalCameraInfo(window, output, 1005, QStringLiteral("additionalcamerainfo-gige")) && ok;
     ok = shootSupportFile(window, output) && ok;
+    ok = shootGeneralInfo(window, output) && ok;
     window.cameraList()->selectDevice(1006);
     ok = save(window, output, QStringLiteral("main-window-adapter-advice")) && ok;
     window.cameraList()->selectDevice(1001);

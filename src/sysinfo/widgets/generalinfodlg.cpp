@@ -52,7 +52,7 @@ GeneralInfoDlg::GeneralInfoDlg(const QString& language, const ServiceManager& se
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(this, &QDialog::finished, this, [this] { TabbedDialogState::save(*this, *m_pages, settingsGroup); });
 
-    resize(720, 560);
+    resize(800, 580);
     TabbedDialogState::restore(*this, *m_pages, settingsGroup);
 
     m_info.about = AboutInformation::collect();
