@@ -21,7 +21,11 @@ DeviceInfoModel::DeviceInfoModel(QObject* parent, LocalAdapter::HostLookup hostA
 }
 
 // A topology job still running finishes unwatched; its snapshot is dropped.
-DeviceInfoModel::~DeviceInfoModel() = default;
+DeviceInfoModel::~DeviceInfoModel()
+{
+    // The topology job must not outlive the model that waits for its result.
+    m_usbTreeWatcher.waitForFinished();
+}
 
 QModelIndex DeviceInfoModel::index(int row, int column, const QModelIndex& parent) const
 {
