@@ -19,7 +19,6 @@ UpdateCheckOutcome failure(const QString& message)
 
 UpdateCheck::UpdateCheck(QObject* parent)
     : QObject(parent)
-    , m_network(new QNetworkAccessManager(this))
 {
     qRegisterMetaType<UpdateCheckOutcome>();
     m_deadline.setSingleShot(true);
@@ -48,6 +47,8 @@ void UpdateCheck::start(const QUrl& address, const QVersionNumber& installed)
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
     request.setMaximumRedirectsAllowed(m_limits.maximumRedirects);
     request.setRawHeader("Accept", "application/json");
+    if (!m_network) // Qt's network machinery starts threads: only once the user asks
+        m_network = new QNetworkAccessManager(this);
     m_reply = m_network->get(request);
     connect(m_reply, &QNetworkReply::downloadProgress, this, &UpdateCheck::onDataArriving);
     connect(m_reply, &QNetworkReply::finished, this, &UpdateCheck::onReplyFinished);

@@ -69,7 +69,7 @@ private:
     void abort(Abort reason);
     void finish(const UpdateCheckOutcome& outcome);
 
-    QNetworkAccessManager* m_network;
+    QNetworkAccessManager* m_network = nullptr;
     QPointer<QNetworkReply> m_reply;
     QTimer m_deadline;
     Limits m_limits;
