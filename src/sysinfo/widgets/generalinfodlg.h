@@ -28,7 +28,7 @@ public:
 
     // Every page as indented text; the pages still being read say so.
     QString text() const;
-    bool isReading() const { return m_reading.isRunning(); }
+    bool isReading() const { return !m_info.hostRead; }
     UpdatesPage* updatesPage() const { return m_updates; }
 
 public slots:
