@@ -1,6 +1,7 @@
 #include "camera/cameracelltexts.h"
 
 #include "camera/camera.h"
+#include "camera/cameralistmodel.h"
 
 #include <QCoreApplication>
 
@@ -25,6 +26,33 @@ bool usesListStatus(const Camera& camera)
 {
     const Camera::Kind kind = camera.kind();
     return kind == Camera::Kind::Usb || kind == Camera::Kind::Sdk;
+}
+
+// Held by a host, yet reachable: the driver keeps it for boot boost.
+bool inBootBoost(const Camera& camera)
+{
+    return !usesListStatus(camera) && !camera.isFree() && camera.isReachable();
+}
+
+QString bootBoostExplained()
+{
+    return QCoreApplication::translate("CameraListModel", "Yes (BB): the driver keeps the camera in boot boost mode; it can be opened.");
+}
+
+// One line per kind, as the Type column shows it.
+QString typeExplained(const QString& type)
+{
+    if (type == QLatin1String("USB"))
+        return QCoreApplication::translate("CameraListModel", "USB: USB camera");
+    if (type == QLatin1String("ETH"))
+        return QCoreApplication::translate("CameraListModel", "ETH: GigE camera");
+    if (type == QLatin1String("PMC"))
+        return QCoreApplication::translate("CameraListModel", "PMC: read-only multicast device, a passive receiver of a GigE camera's stream");
+    if (type == QLatin1String("U3V"))
+        return QCoreApplication::translate("CameraListModel", "U3V: USB3 Vision camera of the Parvel Summit SDK");
+    if (type == QLatin1String("GEV"))
+        return QCoreApplication::translate("CameraListModel", "GEV: GigE Vision camera of the Parvel Summit SDK");
+    return QCoreApplication::translate("CameraListModel", "UNK: a device of a kind that this version does not know");
 }
 
 QString image(const char* name)
@@ -63,9 +91,9 @@ QString freeText(const Camera& camera)
 {
     if (usesListStatus(camera))
         return camera.inUse() ? no() : yes();
-    if (!camera.isFree())
-        return camera.isReachable() ? QCoreApplication::translate("CameraListModel", "Yes (BB)") : no();
-    return yes();
+    if (inBootBoost(camera))
+        return QCoreApplication::translate("CameraListModel", "Yes (BB)");
+    return camera.isFree() ? yes() : no();
 }
 
 bool isAvailable(const Camera& camera)
@@ -102,6 +130,35 @@ QString iconName(const Camera& camera)
     if (camera.linkSpeed() < 4000 && camera.isUsb3Family() && camera.deviceId() < PV_ETH_DEVICE_FIRST)
         return image("usb_warning.png");
     return camera.inUse() ? image("usb_disconnected.png") : image("usb_connect.png");
+}
+
+QString columnToolTip(int column)
+{
+    switch (column) {
+    case CameraListModel::Free:
+        return QCoreApplication::translate("CameraListModel", "Free: whether no other host holds the camera.") + QLatin1Char('\n') + bootBoostExplained();
+    case CameraListModel::Available: return QCoreApplication::translate("CameraListModel", "Avail.: whether the camera can be opened now.");
+    case CameraListModel::Type: {
+        QStringList lines{QCoreApplication::translate("CameraListModel", "Type: the kind of device.")};
+        for (const char* type : {"USB", "ETH", "PMC", "U3V", "GEV", "UNK"})
+            lines << typeExplained(QLatin1String(type));
+        return lines.join(QLatin1Char('\n'));
+    }
+    case CameraListModel::CameraId: return QCoreApplication::translate("CameraListModel", "Cam. ID: the camera ID, a number from 1 to 254 that is stored in the camera.");
+    case CameraListModel::DeviceId: return QCoreApplication::translate("CameraListModel", "Dev. ID: the device ID, which the driver gives the device for this connection.");
+    case CameraListModel::Model: return QCoreApplication::translate("CameraListModel", "Model: the model name.");
+    case CameraListModel::SerialNumber: return QCoreApplication::translate("CameraListModel", "Ser. No.: the serial number.");
+    default: return QString();
+    }
+}
+
+QString cellToolTip(const Camera& camera, int column)
+{
+    if (column == CameraListModel::Free && inBootBoost(camera))
+        return bootBoostExplained();
+    if (column == CameraListModel::Type)
+        return typeExplained(typeText(camera));
+    return QString();
 }
 
 } // namespace CameraCellTexts
