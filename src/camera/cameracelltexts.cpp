@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <iterator>
+
 namespace {
 
 const QString modelPrefix = QStringLiteral("CR");
@@ -34,25 +36,55 @@ bool inBootBoost(const Camera& camera)
     return !usesListStatus(camera) && !camera.isFree() && camera.isReachable();
 }
 
-QString bootBoostExplained()
+QString translated(const char* text)
 {
-    return QCoreApplication::translate("CameraListModel", "Yes (BB): the driver keeps the camera in boot boost mode; it can be opened.");
+    return QCoreApplication::translate("CameraListModel", text);
 }
 
+QString bootBoostExplained()
+{
+    return translated(QT_TRANSLATE_NOOP("CameraListModel", "Yes (BB): the driver keeps the camera in boot boost mode; "
+                                                           "it can be opened."));
+}
+
+struct Explanation
+{
+    const char* shown;
+    const char* text;
+};
+
 // One line per kind, as the Type column shows it.
+const Explanation typeExplanations[] = {
+    {"USB", QT_TRANSLATE_NOOP("CameraListModel", "USB: USB camera")},
+    {"ETH", QT_TRANSLATE_NOOP("CameraListModel", "ETH: GigE camera")},
+    {"PMC", QT_TRANSLATE_NOOP("CameraListModel",
+                              "PMC: read-only multicast device, a passive receiver of a GigE camera's stream")},
+    {"U3V", QT_TRANSLATE_NOOP("CameraListModel", "U3V: USB3 Vision camera of the Parvel Summit SDK")},
+    {"GEV", QT_TRANSLATE_NOOP("CameraListModel", "GEV: GigE Vision camera of the Parvel Summit SDK")},
+    {"UNK", QT_TRANSLATE_NOOP("CameraListModel", "UNK: a device of a kind that this version does not know")},
+};
+
+// By column: what it shows.
+const char* const columnExplanations[] = {
+    QT_TRANSLATE_NOOP("CameraListModel", "Free: whether no other host holds the camera."),
+    QT_TRANSLATE_NOOP("CameraListModel", "Avail.: whether the camera can be opened now."),
+    QT_TRANSLATE_NOOP("CameraListModel", "Type: the kind of device."),
+    QT_TRANSLATE_NOOP("CameraListModel",
+                      "Cam. ID: the camera ID, a number from 1 to 254 that is stored in the camera."),
+    QT_TRANSLATE_NOOP("CameraListModel",
+                      "Dev. ID: the device ID, which the driver gives the device for this connection."),
+    QT_TRANSLATE_NOOP("CameraListModel", "Model: the model name."),
+    QT_TRANSLATE_NOOP("CameraListModel", "Ser. No.: the serial number."),
+};
+static_assert(std::size(columnExplanations) == CameraListModel::ColumnCount);
+
 QString typeExplained(const QString& type)
 {
-    if (type == QLatin1String("USB"))
-        return QCoreApplication::translate("CameraListModel", "USB: USB camera");
-    if (type == QLatin1String("ETH"))
-        return QCoreApplication::translate("CameraListModel", "ETH: GigE camera");
-    if (type == QLatin1String("PMC"))
-        return QCoreApplication::translate("CameraListModel", "PMC: read-only multicast device, a passive receiver of a GigE camera's stream");
-    if (type == QLatin1String("U3V"))
-        return QCoreApplication::translate("CameraListModel", "U3V: USB3 Vision camera of the Parvel Summit SDK");
-    if (type == QLatin1String("GEV"))
-        return QCoreApplication::translate("CameraListModel", "GEV: GigE Vision camera of the Parvel Summit SDK");
-    return QCoreApplication::translate("CameraListModel", "UNK: a device of a kind that this version does not know");
+    for (const Explanation& explanation : typeExplanations) {
+        if (type == QLatin1String(explanation.shown))
+            return translated(explanation.text);
+    }
+    return QString();
 }
 
 QString image(const char* name)
@@ -134,22 +166,16 @@ QString iconName(const Camera& camera)
 
 QString columnToolTip(int column)
 {
-    switch (column) {
-    case CameraListModel::Free:
-        return QCoreApplication::translate("CameraListModel", "Free: whether no other host holds the camera.") + QLatin1Char('\n') + bootBoostExplained();
-    case CameraListModel::Available: return QCoreApplication::translate("CameraListModel", "Avail.: whether the camera can be opened now.");
-    case CameraListModel::Type: {
-        QStringList lines{QCoreApplication::translate("CameraListModel", "Type: the kind of device.")};
-        for (const char* type : {"USB", "ETH", "PMC", "U3V", "GEV", "UNK"})
-            lines << typeExplained(QLatin1String(type));
-        return lines.join(QLatin1Char('\n'));
+    if (column < 0 || column >= CameraListModel::ColumnCount)
+        return QString();
+    QStringList lines{translated(columnExplanations[column])};
+    if (column == CameraListModel::Free)
+        lines << bootBoostExplained();
+    if (column == CameraListModel::Type) {
+        for (const Explanation& explanation : typeExplanations)
+            lines << translated(explanation.text);
     }
-    case CameraListModel::CameraId: return QCoreApplication::translate("CameraListModel", "Cam. ID: the camera ID, a number from 1 to 254 that is stored in the camera.");
-    case CameraListModel::DeviceId: return QCoreApplication::translate("CameraListModel", "Dev. ID: the device ID, which the driver gives the device for this connection.");
-    case CameraListModel::Model: return QCoreApplication::translate("CameraListModel", "Model: the model name.");
-    case CameraListModel::SerialNumber: return QCoreApplication::translate("CameraListModel", "Ser. No.: the serial number.");
-    default: return QString();
-    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 QString cellToolTip(const Camera& camera, int column)

@@ -228,9 +228,10 @@ Expectations expectationsOf(const QJsonObject& camera, const QJsonObject& scenar
     else if (kind != "eth")
         rows.append({{"Device", "Network", "Current IP address"}, address("persistentIp")});
     rows.append({{"Local network adapter", "General", "Designation"}, address("adapter")});
-    for (const QJsonValue& adapter : scenario.value("adapters").toArray()) {
-        if (adapter.toObject().value("name").toString() == address("adapter"))
-            rows.append({{"Local network adapter", "Network", "IP address"}, adapter.toObject().value("ip").toString()});
+    for (const QJsonValue& value : scenario.value("adapters").toArray()) {
+        const QJsonObject adapter = value.toObject();
+        if (adapter.value("name").toString() == address("adapter"))
+            rows.append({{"Local network adapter", "Network", "IP address"}, adapter.value("ip").toString()});
     }
     return rows;
 }

@@ -444,9 +444,10 @@ bool QCirroCameramanager::autoRefreshWanted() const
 void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
 {
     if (ViewerLauncher::viewerPath().isEmpty()) {
+        const QString settingsFile = UserSettings::open().fileName();
         Printer(tr("The camera viewer was not found. Install %1 in a folder of the PATH, or set the viewer's path "
                    "as \"%2\" in %3.")
-                    .arg(ViewerLauncher::viewerProgram(), ViewerLauncher::settingsKey(), UserSettings::open().fileName()),
+                    .arg(ViewerLauncher::viewerProgram(), ViewerLauncher::settingsKey(), settingsFile),
                 Qt::red, false);
         return;
     }

@@ -55,8 +55,8 @@ QSize DeviceInfoView::sizeHint() const
     int contentsWidth = 0;
     for (int column = 0; column < header()->count(); ++column)
         contentsWidth += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
-    const int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width() + std::max(typicalWidth, contentsWidth);
-    return {width, QTreeView::sizeHint().height()};
+    const int frame = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {frame + std::max(typicalWidth, contentsWidth), QTreeView::sizeHint().height()};
 }
 
 void DeviceInfoView::onCustomContextMenu(const QPoint& pos)

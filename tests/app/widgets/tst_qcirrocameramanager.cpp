@@ -536,7 +536,8 @@ void TestMainWindow::deletingAReadOnlyDeviceAsksFirst()
     MessageBoxAnswerer answerer{QMessageBox::StandardButton(answer)};
     remove->trigger();
     QCOMPARE(answerer.seen.size(), 1);
-    QVERIFY2(answerer.seen.first().startsWith("Delete read-only device: Delete the read-only device 1500 (camera ID 20)?"),
+    QVERIFY2(answerer.seen.first().startsWith(
+                 "Delete read-only device: Delete the read-only device 1500 (camera ID 20)?"),
              qPrintable(answerer.seen.first()));
     QCOMPARE(cameraState(1500).isEmpty(), removed);
     if (removed)

@@ -238,7 +238,8 @@ void TestStartup::withoutDisplayAWindowIsRefusedInOneLine_data()
     QTest::newRow("no option") << QStringList() << noDisplay;
     QTest::newRow("-a") << QStringList{"-a"} << noDisplay;
     QTest::newRow("--daemon-config") << QStringList{"--daemon-config"} << noDisplay;
-    QTest::newRow("unknown option") << QStringList{"--frobnicate"} << "Parvel Camera Manager: Unknown option 'frobnicate'.\n";
+    QTest::newRow("unknown option") << QStringList{"--frobnicate"}
+                                    << "Parvel Camera Manager: Unknown option 'frobnicate'.\n";
 }
 
 void TestStartup::withoutDisplayAWindowIsRefusedInOneLine()
