@@ -42,6 +42,14 @@ PV_API int32_t PV_CALL pvsim_ClearFailures(void);
  * before the next call (the adapters' counters never stand still). */
 PV_API int32_t PV_CALL pvsim_GetState(char* buffer, uint32_t size, uint32_t* required);
 
+/* Why the scenario file named by CIRRO_SIM_SCENARIO when the driver started
+ * was not loaded (the built-in fleet runs instead): the file and the problem,
+ * as one NUL-terminated text; an empty text when it was loaded or none was
+ * named. Writes the size needed including the NUL into *required; with
+ * buffer NULL nothing else, else PV_ERR_BUFFER_TOO_SMALL when the text does
+ * not fit into `size` bytes. */
+PV_API int32_t PV_CALL pvsim_GetStartScenarioError(char* buffer, uint32_t size, uint32_t* required);
+
 /* The two driver services, "cirro_usb" and "cirro_eth". A stopped service
  * hides its cameras. State: 1 not installed, 2 stopped, 3 running. */
 PV_API int32_t PV_CALL pvsim_SetServiceRunning(const char* service, int32_t running);

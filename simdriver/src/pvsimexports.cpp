@@ -132,6 +132,23 @@ int32_t PV_CALL pvsim_GetState(char* buffer, uint32_t size, uint32_t* required)
     return PV_OK;
 }
 
+int32_t PV_CALL pvsim_GetStartScenarioError(char* buffer, uint32_t size, uint32_t* required)
+{
+    return guarded("pvsim_GetStartScenarioError", [&](SimDriver& d) {
+        const std::string& error = d.startScenarioError();
+        const std::uint32_t needed = std::uint32_t(error.size() + 1);
+        if (required)
+            *required = needed;
+        if (!buffer)
+            return success(); // asked for the size only
+        if (size < needed)
+            return failure(PV_ERR_BUFFER_TOO_SMALL, "pvsim_GetStartScenarioError: the text needs "
+                                                        + std::to_string(needed) + " bytes");
+        std::memcpy(buffer, error.c_str(), needed);
+        return success();
+    });
+}
+
 int32_t PV_CALL pvsim_SetServiceRunning(const char* service, int32_t running)
 {
     return guarded("pvsim_SetServiceRunning", [&](SimDriver& d) {

@@ -41,6 +41,9 @@ void copyText(char (&target)[N], const std::string& text)
     std::memcpy(target, text.data(), std::min(text.size(), N - 1));
 }
 
+// The sibling SDK's USB3 Vision cameras; its other cameras are GigE Vision cameras.
+constexpr std::uint8_t usb3VisionTypeCode = 225;
+
 // Counters that grow while the camera is connected, as a driver's would.
 std::uint32_t heartbeats(std::uint32_t elapsedMs, std::uint32_t periodMs)
 {
@@ -169,6 +172,18 @@ Result SimCamera::apply(const QJsonObject& json)
     return result;
 }
 
+bool SimCamera::isOnNetwork() const
+{
+    switch (kind) {
+    case CameraKind::Eth:
+    case CameraKind::ReadOnly: return true;
+    case CameraKind::Sdk: return typeCode != usb3VisionTypeCode;
+    case CameraKind::Usb:
+    case CameraKind::Unknown: return false; // reports no device information at all
+    }
+    return false;
+}
+
 Result SimCamera::applyChange(const QJsonObject& json)
 {
     if (json.contains("kind") || json.contains("deviceId"))
@@ -186,14 +201,14 @@ void SimCamera::derive(const SimAdapter* adapter, const DriverSettings& settings
     if (isEthernet())
         deriveEthernet(adapter, settings, rangeAddress);
     else
-        deriveUsb(settings);
+        deriveOutsideEthService(settings);
     if (uploading) {
         deviceStatus |= PV_STATUS_RECEIVING_STARTER_FW;
         deviceControl |= PV_CONTROL_UPLOAD_STARTER_FW;
     }
 }
 
-void SimCamera::deriveUsb(const DriverSettings& settings)
+void SimCamera::deriveOutsideEthService(const DriverSettings& settings)
 {
     effectiveLinkSpeed = linkSpeed;
     deviceStatus = PV_STATUS_READY;
@@ -204,6 +219,11 @@ void SimCamera::deriveUsb(const DriverSettings& settings)
         deviceControl |= PV_CONTROL_OPENED;
     else if (!inUse() && (listStatus & 0x3u) == 0)
         deviceControl |= PV_CONTROL_AVAILABLE;
+    // The ETH service does not manage these cameras' addresses: they keep their own.
+    if (isOnNetwork()) {
+        currentIp = persistentIp;
+        currentMask = persistentMask;
+    }
 }
 
 void SimCamera::deriveEthernet(const SimAdapter* adapter, const DriverSettings& settings,
@@ -355,7 +375,7 @@ void SimCamera::fillDeviceInformation(pv_DeviceInformation& info, const SimAdapt
     info.atomicRefCount = isOpen() ? 2 : 1;
     info.refFlags = isOpen() ? 0x3 : 0x1;
 
-    if (isEthernet())
+    if (isOnNetwork())
         fillEthPart(info.u.eth, adapter, knownDevices);
     else
         fillUsbPart(info.u.usb);

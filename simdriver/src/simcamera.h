@@ -30,6 +30,10 @@ struct SimCamera
     Result applyChange(const QJsonObject& json);
 
     bool isEthernet() const { return kind == CameraKind::Eth || kind == CameraKind::ReadOnly; }
+    // Whether the device information carries the network part rather than
+    // the USB part: every camera on the network, not only those of the ETH
+    // service.
+    bool isOnNetwork() const;
     bool isOpen() const { return openHandle != 0; }
     bool inUse() const { return isOpen() || openedElsewhere; }
 
@@ -122,7 +126,8 @@ struct SimCamera
 
 private:
     void deriveEthernet(const SimAdapter* adapter, const DriverSettings& settings, std::uint32_t rangeAddress);
-    void deriveUsb(const DriverSettings& settings);
+    // USB cameras, the sibling SDK's cameras and devices of unknown kind.
+    void deriveOutsideEthService(const DriverSettings& settings);
     void fillUsbPart(pv_UsbDeviceInfo& usb) const;
     void fillEthPart(pv_EthDeviceInfo& eth, const SimAdapter* adapter, std::uint32_t knownDevices) const;
 };

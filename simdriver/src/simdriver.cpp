@@ -13,7 +13,8 @@ namespace sim {
 
 namespace {
 
-Scenario startScenario()
+// `error` says why the scenario named by CIRRO_SIM_SCENARIO was not taken.
+Scenario startScenario(std::string& error)
 {
     Scenario scenario;
     const QString path = qEnvironmentVariable("CIRRO_SIM_SCENARIO");
@@ -21,6 +22,8 @@ Scenario startScenario()
         path.isEmpty() ? Scenario::builtIn(scenario) : Scenario::fromFile(path.toStdString(), scenario);
     if (!result.ok()) {
         qCWarning(lcSimDriver, "%s; using the built-in fleet instead", result.text.c_str());
+        error = result.text;
+        scenario = Scenario();
         Scenario::builtIn(scenario);
     }
     const std::string version = qEnvironmentVariable("CIRRO_SIM_API_VERSION").toStdString();
@@ -47,7 +50,7 @@ SimDriver& SimDriver::instance()
 SimDriver::SimDriver()
     : m_timeScale(startTimeScale())
 {
-    load(startScenario());
+    load(startScenario(m_startScenarioError));
 }
 
 Result SimDriver::load(Scenario scenario)

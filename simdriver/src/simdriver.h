@@ -47,6 +47,10 @@ public:
     Scheduler& scheduler() { return m_scheduler; }
     Tracer& tracer() { return m_tracer; }
 
+    // Why the scenario named at start was not loaded; empty when it was, or
+    // when none was named.
+    const std::string& startScenarioError() const { return m_startScenarioError; }
+
     std::uint32_t newHandle();
     double timeScale() const { return m_timeScale.load(); }
     void setTimeScale(double scale) { m_timeScale = scale; }
@@ -67,6 +71,7 @@ private:
     EventHub m_events;
     FaultInjector m_faults;
     Tracer m_tracer;
+    std::string m_startScenarioError; // written once, before any caller sees the driver
     Scheduler m_scheduler; // last: its thread stops before the rest goes
 };
 

@@ -14,15 +14,12 @@ bool isSupported(std::uint32_t version)
 
 QString refusalText()
 {
-    // The last argument finds no placeholder left; Qt then returns the text as it is.
+    // Every placeholder is filled in one pass; %4 occurs three times.
     return QCoreApplication::translate("main",
                                        "%4 Camera Manager %1 doesn't work with\nlib%4_api < %2.%3!\n"
                                        "use a newer lib%4!")
-        .arg(Identity::applicationVersion())
-        .arg(minimumMajor)
-        .arg(minimumMinor)
-        .arg(Identity::productLineName())
-        .arg(Identity::makerShortName());
+        .arg(Identity::applicationVersion(), QString::number(minimumMajor), QString::number(minimumMinor),
+             Identity::productLineName());
 }
 
 } // namespace ApiVersionCheck

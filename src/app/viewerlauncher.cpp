@@ -21,9 +21,8 @@ QString viewerProgram()
 QString viewerPath()
 {
     const QString configured = UserSettings::open().value(settingsKey()).toString();
-    if (!configured.isEmpty())
-        return configured;
-    return QStandardPaths::findExecutable(viewerProgram());
+    // An absolute path counts when it names an executable file.
+    return QStandardPaths::findExecutable(configured.isEmpty() ? viewerProgram() : configured);
 }
 
 QStringList arguments(const Camera& camera)

@@ -12,6 +12,7 @@ namespace ViewerLauncher {
 // looked up on PATH.
 QString settingsKey();
 QString viewerProgram();
+// The viewer program; empty when it is not an executable file.
 QString viewerPath();
 // "-s" and the serial number when it is valid, else "-d" and the device ID.
 QStringList arguments(const Camera& camera);

@@ -17,4 +17,10 @@ bool isAvailable(const Camera& camera);
 // ":/images/..." of the status icon.
 QString iconName(const Camera& camera);
 
+// What a column of the table means, with the abbreviations it can show
+// (column numbers as CameraListModel::Column).
+QString columnToolTip(int column);
+// What the camera's cell says, where the text is an abbreviation; else empty.
+QString cellToolTip(const Camera& camera, int column);
+
 } // namespace CameraCellTexts

@@ -107,16 +107,15 @@ StatusAssessment assessReachableGige(const Camera& camera, bool free)
             return reason(camera, StatusTexts::tr("Firmware image is not available or corrupted. Please reinstall the "
                                                   "%1 setup.")
                                       .arg(StatusTexts::productLine()));
-        const VersionWord requested(image);
+        // Formatted as the details tree shows firmware versions.
+        const QStringList requested = VersionWord(image).paddedParts();
         return reason(camera,
                       StatusTexts::tr("The starter firmware of the camera is incompatible to the driver.\nAn automatic "
                                       "upload will be initiated next time you open the camera. This upload will take "
                                       "several seconds. Do not switch off the power supply and do not unplug the "
                                       "camera! It is strongly recommended to upload the firmware over the button "
                                       "'Starter Firmware Upload'. The requested starter firmware version is %1.%2.%3")
-                          .arg(requested.major())
-                          .arg(requested.minor())
-                          .arg(requested.build()));
+                          .arg(requested.at(0), requested.at(1), requested.at(2)));
     }
     if (!free)
         return make(StatusTexts::tr("Status of device %1: The camera is currently running in the boot boost mode. It "
@@ -236,7 +235,11 @@ StatusAssessment StatusAssessment::of(const Camera* camera, const QStringList& u
     case Camera::Kind::Sdk: result = assessSibling(*camera); break;
     case Camera::Kind::Eth:
     case Camera::Kind::ReadOnly: result = assessEthernet(*camera); break;
-    case Camera::Kind::Unknown: break;
+    case Camera::Kind::Unknown:
+        result = reason(*camera, StatusTexts::tr("The device is of a kind that this version of the Camera Manager "
+                                                 "does not know, so it can't be used here."));
+        result.clearsPicture = true;
+        break;
     }
     result.picture = pictureOf(*camera);
     if (unsupportedModels.contains(camera->model()))
@@ -252,5 +255,8 @@ QString StatusAssessment::coloured() const
 
 QString StatusAssessment::fontColoured(const QString& colourName, const QString& text)
 {
-    return QStringLiteral("<font color='%1'>%2</font>").arg(colourName, text);
+    // The text is plain: shown as rich text, its line breaks would be lost.
+    QString shown = text.toHtmlEscaped();
+    shown.replace(QLatin1Char('\n'), QLatin1String("<br>"));
+    return QStringLiteral("<font color='%1'>%2</font>").arg(colourName, shown);
 }

@@ -15,11 +15,12 @@ struct StatusAssessment
     QString message; // empty: the status line stays empty
     QColor colour;
     QString picture; // ":/images/..."; empty: keep the picture shown
+    bool clearsPicture = false; // no picture fits, and none of another camera may stay
     QString unsupportedWarning;
 
     static StatusAssessment of(const Camera* camera, const QStringList& unsupportedModels);
     static QString pictureOf(const Camera& camera);
-    // "<font color='%1'>%2</font>" around the message.
+    // "<font color='%1'>%2</font>" around the message, which is plain text.
     QString coloured() const;
     static QString fontColoured(const QString& colourName, const QString& text);
 };

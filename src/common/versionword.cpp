@@ -42,8 +42,11 @@ QString VersionWord::text() const
 
 QString VersionWord::paddedText() const
 {
-    return QStringLiteral("%1.%2.%3")
-        .arg(m_major)
-        .arg(m_minor, 2, 10, QLatin1Char('0'))
-        .arg(m_build, 4, 10, QLatin1Char('0'));
+    return paddedParts().join(QLatin1Char('.'));
+}
+
+QStringList VersionWord::paddedParts() const
+{
+    return {QString::number(m_major), QStringLiteral("%1").arg(m_minor, 2, 10, QLatin1Char('0')),
+            QStringLiteral("%1").arg(m_build, 4, 10, QLatin1Char('0'))};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -24,6 +25,8 @@ public:
     QString text() const;
     // Minor in two digits, build in four: "4.97.0042".
     QString paddedText() const;
+    // The three numbers of paddedText(): "4", "97", "0042".
+    QStringList paddedParts() const;
 
 private:
     int m_major;

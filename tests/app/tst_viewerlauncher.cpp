@@ -27,6 +27,7 @@ private slots:
     void arguments_data();
     void arguments();
     void configuredViewerIsStartedWithTheCamera();
+    void missingViewerFailsQuietly_data();
     void missingViewerFailsQuietly();
 
 private:
@@ -79,9 +80,24 @@ void TestViewerLauncher::configuredViewerIsStartedWithTheCamera()
     QTRY_COMPARE(written(), QByteArray("-d 1004"));
 }
 
+void TestViewerLauncher::missingViewerFailsQuietly_data()
+{
+    QTest::addColumn<QString>("configured"); // empty: no setting
+    QTest::newRow("none on PATH") << QString();
+    QTest::newRow("configured file missing") << dir.filePath("gone/CirroViewer");
+    QTest::newRow("configured file not executable") << dir.filePath("viewer.txt");
+}
+
 void TestViewerLauncher::missingViewerFailsQuietly()
 {
-    QSettings("Parvel", "CameraManager").remove(ViewerLauncher::settingsKey());
+    QFETCH(QString, configured);
+    QFile text(dir.filePath("viewer.txt"));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.close();
+    if (configured.isEmpty())
+        QSettings("Parvel", "CameraManager").remove(ViewerLauncher::settingsKey());
+    else
+        QSettings("Parvel", "CameraManager").setValue(ViewerLauncher::settingsKey(), configured);
     qputenv("PATH", dir.filePath("empty").toLocal8Bit());
     QVERIFY(ViewerLauncher::viewerPath().isEmpty());
     QVERIFY(!ViewerLauncher::open(cameraWith("4102000001", 0)));

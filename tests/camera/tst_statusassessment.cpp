@@ -83,6 +83,7 @@ private slots:
     void unsupportedModelWarning();
     void pictures_data();
     void pictures();
+    void colouredMessage_data();
     void colouredMessage();
 };
 
@@ -171,7 +172,7 @@ void TestStatusAssessment::decision_data()
     QTest::newRow("firmware upload pending")
         << with(gige, [](Words& w) { w.cameraStarter = PV_VERSION(3, 1, 4), w.flags = 0x84; })
         << "@The starter firmware of the camera is incompatible to the driver.\n... The requested starter firmware "
-           "version is 3.2.1"
+           "version is 3.02.0001"
         << QColor(Qt::red);
     QTest::newRow("no firmware image") << with(gige, [](Words& w) { w.image = 0, w.flags = 0x80; })
                                        << "@Firmware image is not available or corrupted. Please reinstall the Parvel "
@@ -183,6 +184,10 @@ void TestStatusAssessment::decision_data()
                                 << QColor(Qt::black);
     QTest::newRow("100 Mbit adapter") << with(gige, [](Words& w) { w.adapterLink = 100; }) << slower << orange;
     QTest::newRow("100 Mbit camera") << with(gige, [](Words& w) { w.link = 100; }) << slower << orange;
+    QTest::newRow("unknown kind") << with(gige, [](Words& w) { w.deviceId = 2500; })
+                                  << "@The device is of a kind that this version of the Camera Manager does not "
+                                     "know, so it can't be used here."
+                                  << QColor(Qt::red);
     QTest::newRow("transfer failure wins") << with(unreachable(gige), [](Words& w) { w.result = -7; })
                                            << "Transfer failed (Errorcode: -7): API DLL or kernel driver "
                                               "incompatible. Please reinstall the setup."
@@ -230,14 +235,15 @@ void TestStatusAssessment::pictures_data()
     QTest::addColumn<quint32>("deviceId");
     QTest::addColumn<int>("typeCode");
     QTest::addColumn<QString>("picture");
-    QTest::newRow("USB 0x40") << 1u << 0x40 << ":/images/cam_usb.png";
-    QTest::newRow("USB 0x65 shares 0x62") << 1u << 0x65 << ":/images/cam_62.png";
-    QTest::newRow("USB unknown code") << 1u << 0x7F << "";
-    QTest::newRow("sibling") << 2001u << 0xE2 << ":/images/cam_summit.png";
-    QTest::newRow("read-only") << 1600u << 0x8A << ":/images/cam_pmc.png";
-    QTest::newRow("GigE 0x86 shares 0x81") << 1001u << 0x86 << ":/images/cam_81.png";
-    QTest::newRow("GigE other") << 1001u << 0x90 << ":/images/cam_eth.png";
-    QTest::newRow("unknown kind") << 2600u << 0x8A << "";
+    QTest::addColumn<bool>("clears"); // else an empty picture keeps the one shown
+    QTest::newRow("USB 0x40") << 1u << 0x40 << ":/images/cam_usb.png" << false;
+    QTest::newRow("USB 0x65 shares 0x62") << 1u << 0x65 << ":/images/cam_62.png" << false;
+    QTest::newRow("USB unknown code") << 1u << 0x7F << "" << false;
+    QTest::newRow("sibling") << 2001u << 0xE2 << ":/images/cam_summit.png" << false;
+    QTest::newRow("read-only") << 1600u << 0x8A << ":/images/cam_pmc.png" << false;
+    QTest::newRow("GigE 0x86 shares 0x81") << 1001u << 0x86 << ":/images/cam_81.png" << false;
+    QTest::newRow("GigE other") << 1001u << 0x90 << ":/images/cam_eth.png" << false;
+    QTest::newRow("unknown kind") << 2600u << 0x8A << "" << true;
 }
 
 void TestStatusAssessment::pictures()
@@ -247,15 +253,31 @@ void TestStatusAssessment::pictures()
     Words w;
     w.deviceId = deviceId;
     w.typeCode = quint8(typeCode);
-    QTEST(StatusAssessment::pictureOf(cameraWith(w)), "picture");
+    const Camera camera = cameraWith(w);
+    QTEST(StatusAssessment::pictureOf(camera), "picture");
+    const StatusAssessment assessment = StatusAssessment::of(&camera, {});
+    QTEST(assessment.picture, "picture");
+    QTEST(assessment.clearsPicture, "clears");
+}
+
+void TestStatusAssessment::colouredMessage_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("coloured");
+    QTest::newRow("plain") << "Hello" << "<font color='#008000'>Hello</font>";
+    QTest::newRow("line break shows as one") << "incompatible to the driver.\nAn automatic upload"
+                                             << "<font color='#008000'>incompatible to the driver.<br>An automatic "
+                                                "upload</font>";
+    QTest::newRow("markup characters stay text") << "a <b> & c" << "<font color='#008000'>a &lt;b&gt; &amp; c</font>";
 }
 
 void TestStatusAssessment::colouredMessage()
 {
     StatusAssessment assessment;
-    assessment.message = QStringLiteral("Hello");
+    QFETCH(QString, message);
+    assessment.message = message;
     assessment.colour = Qt::darkGreen;
-    QCOMPARE(assessment.coloured(), QStringLiteral("<font color='#008000'>Hello</font>"));
+    QTEST(assessment.coloured(), "coloured");
 }
 
 QTEST_GUILESS_MAIN(TestStatusAssessment)

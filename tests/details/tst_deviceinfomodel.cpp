@@ -1,4 +1,5 @@
 #include "details/deviceinfomodel.h"
+#include "common/versionword.h"
 #include "details/flagtables.h"
 #include "network/networkadapters.h"
 
@@ -7,6 +8,10 @@
 #include "sysfsfixture.h"
 
 #include <QAbstractItemModelTester>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLoggingCategory>
 #include <QNetworkInterface>
 #include <QSignalSpy>
@@ -14,6 +19,10 @@
 #include <QtTest>
 
 using namespace DeviceInfoTestSupport;
+
+// Rows of the tree, by their labels, and the texts they must show.
+using Expectations = QList<QPair<QStringList, QString>>;
+Q_DECLARE_METATYPE(Expectations)
 
 Q_DECLARE_METATYPE(std::optional<NetworkAdapter>)
 
@@ -88,6 +97,8 @@ private slots:
 
     void rowsByKind_data();
     void rowsByKind();
+    void treeShowsTheScenarioValues_data();
+    void treeShowsTheScenarioValues();
     void flagRowsFollowTheTables();
     void values_data();
     void values();
@@ -176,6 +187,94 @@ void TestDeviceInfoModel::rowsByKind()
     const QStringList deviceGroups = childLabels(model, rowAt(model, {"Device"}));
     QCOMPARE(deviceGroups, top.size() == 3 ? QStringList({"General", "Hardware", "Network"})
                                            : QStringList({"General", "USB"}));
+}
+
+namespace {
+
+QJsonObject defaultScenario()
+{
+    QFile file(QStringLiteral(CIRRO_SCENARIO_DIR "/default.json"));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+QString versionText(const QString& version)
+{
+    const std::optional<VersionWord> word = VersionWord::fromText(version);
+    return word ? word->paddedText() : QStringLiteral("not a version: ") + version;
+}
+
+// What the scenario says about the camera, where the tree shows it.
+Expectations expectationsOf(const QJsonObject& camera, const QJsonObject& scenario)
+{
+    const QString kind = camera.value("kind").toString();
+    // The driver has no device information of such a device: nothing of another one shows.
+    if (kind == "unknown")
+        return {{{"Device", "Network", "Current IP address"}, ""},
+                {{"Local network adapter", "General", "Designation"}, ""}};
+    const QString starter = camera.value("starterFirmware")
+                                .toString(scenario.value("driver").toObject().value("starterImage").toString());
+    Expectations rows{{{"Device", "General", "Starter firmware version"}, versionText(starter)}};
+    if (kind == "usb" || (kind == "sdk" && camera.value("typeCode").toInt() == 225)) {
+        rows.append({{"Device", "General", "Device type"}, QString::number(camera.value("typeCode").toInt())});
+        return rows;
+    }
+    const auto address = [&camera](const char* field) { return camera.value(field).toString(); };
+    rows.append({{"Device", "Network", "MAC address"}, address("mac").replace(':', '-')});
+    rows.append({{"Device", "Network", "Persistent IP address"}, address("persistentIp")});
+    rows.append({{"Device", "Network", "Multicast IP address"}, address("multicastIp")});
+    // The ETH service gives GigE cameras their addresses; the others keep theirs.
+    if (kind == "readonly")
+        rows.append({{"Device", "Network", "Current IP address"}, address("multicastIp")});
+    else if (kind != "eth")
+        rows.append({{"Device", "Network", "Current IP address"}, address("persistentIp")});
+    rows.append({{"Local network adapter", "General", "Designation"}, address("adapter")});
+    for (const QJsonValue& value : scenario.value("adapters").toArray()) {
+        const QJsonObject adapter = value.toObject();
+        if (adapter.value("name").toString() == address("adapter"))
+            rows.append({{"Local network adapter", "Network", "IP address"}, adapter.value("ip").toString()});
+    }
+    return rows;
+}
+
+} // namespace
+
+void TestDeviceInfoModel::treeShowsTheScenarioValues_data()
+{
+    QTest::addColumn<quint32>("deviceId");
+    QTest::addColumn<Expectations>("expectations");
+    const QJsonObject scenario = defaultScenario();
+    const QJsonArray cameras = scenario.value("cameras").toArray();
+    QVERIFY(!cameras.isEmpty());
+    // Without IDs in the file each kind counts up from its first device ID.
+    const QHash<QString, quint32> firstIds{
+        {"usb", 0}, {"eth", 1000}, {"readonly", 1500}, {"sdk", 2000}, {"unknown", 2500}};
+    QHash<QString, quint32> nextIds = firstIds;
+    for (const QJsonValue& value : cameras) {
+        const QJsonObject camera = value.toObject();
+        const QString kind = camera.value("kind").toString();
+        QVERIFY2(firstIds.contains(kind) && !camera.contains("deviceId"), qPrintable(kind));
+        const quint32 deviceId = nextIds[kind]++;
+        QTest::addRow("%s %u", qPrintable(kind), deviceId) << deviceId << expectationsOf(camera, scenario);
+    }
+    QCOMPARE(QSet<QString>(firstIds.keyBegin(), firstIds.keyEnd()),
+             QSet<QString>(nextIds.keyBegin(), nextIds.keyEnd()));
+}
+
+void TestDeviceInfoModel::treeShowsTheScenarioValues()
+{
+    QFETCH(quint32, deviceId);
+    QFETCH(Expectations, expectations);
+    const Camera camera = fromDriver(deviceId);
+    QCOMPARE(camera.deviceId(), deviceId);
+    DeviceInfoModel model(nullptr, [](const QString&) { return std::nullopt; });
+    model.setSysfsRoot(m_dir.filePath("none"));
+    model.Update(&camera, false);
+    for (const auto& [path, expected] : expectations) {
+        const QModelIndex value = rowAt(model, path, 1);
+        QVERIFY2(value.isValid(), qPrintable(path.join('/')));
+        QVERIFY2(value.data().toString().compare(expected, Qt::CaseInsensitive) == 0,
+                 qPrintable(path.join('/') + ": " + value.data().toString() + ", not " + expected));
+    }
 }
 
 void TestDeviceInfoModel::flagRowsFollowTheTables()

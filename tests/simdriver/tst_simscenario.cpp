@@ -637,6 +637,14 @@ void TestSimScenario::startupEnvironment()
     QCOMPARE(match.captured(3).toInt(), int(PV_OK));
     QCOMPARE(match.captured(1).toUInt(nullptr, 16), version);
     QCOMPARE(match.captured(2).toInt(), expectedCount);
+    // The reason a scenario was not taken can be asked for, with the file in it.
+    const QRegularExpressionMatch startError = QRegularExpression("startError=(-?\\d+):(.*)").match(output);
+    QVERIFY2(startError.hasMatch(), qPrintable(output));
+    QCOMPARE(startError.captured(1).toInt(), int(PV_OK));
+    const bool fellBack = warning == QLatin1String("built-in");
+    QCOMPARE(startError.captured(2).isEmpty(), !fellBack);
+    if (fellBack)
+        QVERIFY2(startError.captured(2).contains(path), qPrintable(startError.captured(2)));
     if (warning.isEmpty()) {
         QVERIFY2(!errors.contains("built-in") && !errors.contains("CIRRO_SIM"), qPrintable(errors));
     } else {

@@ -1,7 +1,9 @@
 // Writes PNG files of the main window and its dialogs on the default simulated fleet:
 //   cirro_screenshots <output directory>
-// Run it under Xvfb through tools/screenshots.sh. The user's settings are
-// kept out of the way in a temporary directory.
+// Run it under Xvfb through tools/screenshots.sh, as the user who would start
+// the program (root sees the privilege warning). The user's settings are kept
+// out of the way in a temporary directory. The window keeps the sizes a user
+// gets: its first size and, for expert mode, its minimum size as well.
 
 #include "app/identity.h"
 #include "app/widgets/startup.h"
@@ -36,6 +38,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QProcess>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -361,6 +364,71 @@ bool shootSupportFile(QCirroCameramanager& window, const QDir& output)
     return save(dialog, output, QStringLiteral("supportfile-damaged")) && ok;
 }
 
+// Expert mode turned on at the window's first size and at its minimum size,
+// with a GigE, a USB and a sibling-SDK GigE Vision camera.
+bool shootExpertMode(QCirroCameramanager& window, const QDir& output)
+{
+    auto* expert = window.findChild<QCheckBox*>(QStringLiteral("expertMode"));
+    const QSize firstSize = window.size();
+    bool ok = true;
+    for (const QSize size : {firstSize, window.minimumSize()}) {
+        const QString suffix = size == firstSize ? QString() : QStringLiteral("-minimum");
+        window.resize(size);
+        expert->setChecked(true);
+        window.cameraList()->selectDevice(1000);
+        ok = save(window, output, QStringLiteral("expert-gige") + suffix) && ok;
+        window.cameraList()->selectDevice(0);
+        ok = save(window, output, QStringLiteral("expert-usb") + suffix) && ok;
+        window.cameraList()->selectDevice(2001);
+        ok = save(window, output, QStringLiteral("expert-gev") + suffix) && ok;
+        expert->setChecked(false);
+    }
+    window.resize(firstSize);
+    return ok;
+}
+
+// The fleet the simulated driver shows changes with its next device event.
+bool loadFleet(QCirroCameramanager& window, const char* scenarioText)
+{
+    const std::int32_t loaded = scenarioText ? pvsim_LoadScenarioText(scenarioText) : pvsim_LoadScenario(nullptr);
+    const bool empty = scenarioText && QByteArray(scenarioText).contains("\"cameras\": []");
+    window.onServiceTimer();
+    return loaded == PV_OK && QTest::qWaitFor([&] {
+               return (window.cameraList()->model()->rowCount() == 0) == empty;
+           });
+}
+
+// The states a first-time user meets: no camera at all while the USB driver
+// service is stopped, and a device of a kind this version does not know.
+bool shootUnusualStates(QCirroCameramanager& window, const QDir& output)
+{
+    bool ok = loadFleet(window, R"({"services": {"cirro_usb": "stopped"}, "cameras": []})");
+    ok = save(window, output, QStringLiteral("main-window-empty")) && ok;
+    ok = loadFleet(window, nullptr) && ok;
+    window.cameraList()->selectDevice(0);
+    window.cameraList()->selectDevice(2500);
+    return save(window, output, QStringLiteral("main-window-unknown-device")) && ok;
+}
+
+// The simulated driver reads its scenario once per process: a second run of
+// this program starts it with a broken file and shoots the window.
+bool shootScenarioError(const QDir& output)
+{
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("line4.json")));
+    if (!dir.isValid() || !file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(R"({"cameras": [{"kind": "eth", "adapter": "simnet9"}]})");
+    file.close();
+    QProcess run;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("CIRRO_SIM_SCENARIO"), file.fileName());
+    run.setProcessEnvironment(environment);
+    run.setProcessChannelMode(QProcess::ForwardedChannels);
+    run.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--scenario-error"), output.path()});
+    return run.waitForFinished(60000) && run.exitStatus() == QProcess::NormalExit && run.exitCode() == 0;
+}
+
 bool setLanguage(QCirroCameramanager& window, const QString& locale)
 {
     auto* languages = window.findChild<QComboBox*>(QStringLiteral("languageSelector"));
@@ -377,13 +445,15 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     Startup::prepareApplication();
     Startup::setInterfaceFont();
-    if (argc < 2) {
+    QStringList arguments = QCoreApplication::arguments();
+    const bool scenarioErrorRun = arguments.removeAll(QStringLiteral("--scenario-error")) > 0;
+    if (arguments.size() < 2) {
         std::fprintf(stderr, "usage: %s <output directory>\n", argv[0]);
         return 2;
     }
-    const QDir output(QString::fromLocal8Bit(argv[1]));
+    const QDir output(arguments.at(1));
     if (!output.mkpath(QStringLiteral("."))) {
-        std::fprintf(stderr, "cannot create %s\n", argv[1]);
+        std::fprintf(stderr, "cannot create %s\n", qPrintable(arguments.at(1)));
         return 1;
     }
     QTemporaryDir settings;
@@ -395,18 +465,14 @@ int main(int argc, char* argv[])
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))
         return 1;
+    if (scenarioErrorRun)
+        return save(window, output, QStringLiteral("main-window-scenario-error")) ? 0 : 1;
     bool ok = true;
     window.cameraList()->selectDevice(1000);
     ok = save(window, output, QStringLiteral("main-window")) && ok;
-
-    window.findChild<QCheckBox*>(QStringLiteral("expertMode"))->setChecked(true);
-    window.resize(1400, 860);
-    window.cameraList()->selectDevice(1000);
-    ok = save(window, output, QStringLiteral("expert-gige")) && ok;
-    window.cameraList()->selectDevice(0);
-    ok = save(window, output, QStringLiteral("expert-usb")) && ok;
-    window.findChild<QCheckBox*>(QStringLiteral("expertMode"))->setChecked(false);
-    window.resize(960, 780);
+    ok = shootExpertMode(window, output) && ok;
+    ok = shootUnusualStates(window, output) && ok;
+    ok = shootScenarioError(output) && ok;
 
     ok = shootEthConfig(window, output) && ok;
     ok = shootEthDaemonConfig(window, output, true, QStringLiteral("ethdaemonconfig")) && ok;
@@ -431,10 +497,15 @@ int main(int argc, char* argv[])
     ok = save(window, output, QStringLiteral("main-window-after-autoconfig")) && ok;
     pvsim_LoadScenario(nullptr);
 
-    ok = setLanguage(window, QStringLiteral("de")) && ok;
-    window.cameraList()->selectDevice(1001);
-    ok = save(window, output, QStringLiteral("main-window-de")) && ok;
-    ok = setLanguage(window, QStringLiteral("zh_CN")) && ok;
-    ok = save(window, output, QStringLiteral("main-window-zh_CN")) && ok;
+    // Longer texts: the details in expert mode too.
+    auto* expert = window.findChild<QCheckBox*>(QStringLiteral("expertMode"));
+    for (const QString& locale : {QStringLiteral("de"), QStringLiteral("zh_CN")}) {
+        ok = setLanguage(window, locale) && ok;
+        window.cameraList()->selectDevice(1001);
+        ok = save(window, output, QStringLiteral("main-window-") + locale) && ok;
+        expert->setChecked(true);
+        ok = save(window, output, QStringLiteral("expert-") + locale) && ok;
+        expert->setChecked(false);
+    }
     return ok ? 0 : 1;
 }

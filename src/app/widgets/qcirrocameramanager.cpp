@@ -1,9 +1,11 @@
 #include "app/widgets/qcirrocameramanager.h"
 
+#include "app/cameralistplaceholder.h"
 #include "app/identity.h"
 #include "app/languagecatalog.h"
 #include "app/unsupportedmodels.h"
 #include "app/viewerlauncher.h"
+#include "app/windowgrowth.h"
 #include "app/widgets/commandregistry.h"
 #include "app/widgets/controlarea.h"
 #include "app/widgets/startupimages.h"
@@ -13,6 +15,7 @@
 #include "camera/statusassessment.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
+#include "common/simulateddriver.h"
 #include "common/usersettings.h"
 #include "details/widgets/deviceinfoview.h"
 #include "dialogs/widgets/additionalcamerainfo.h"
@@ -36,6 +39,7 @@
 #include "supportfile/widgets/supportfilesavedialog.h"
 #include "sysinfo/widgets/generalinfodlg.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -47,6 +51,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QThreadPool>
 #include <QTimer>
@@ -87,6 +92,7 @@ QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* paren
     : QMainWindow(parent)
     , m_languages(environment.translationDirectory.isEmpty() ? LanguageCatalog::translationDirectory()
                                                              : environment.translationDirectory)
+    , m_availableGeometry(environment.availableGeometry)
     , m_services(environment.services ? std::move(environment.services) : ServiceManager::create())
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -105,6 +111,7 @@ QCirroCameramanager::QCirroCameramanager(Environment environment, QWidget* paren
     m_serviceTimer->start(servicePollIntervalMs);
     restoreSettings();
     updateDetails(false);
+    showScenarioError();
 }
 
 QCirroCameramanager::~QCirroCameramanager()
@@ -162,9 +169,10 @@ void QCirroCameramanager::buildLayout()
     leftColumn->addWidget(buildBottomGroup());
     leftColumn->addWidget(m_statusPanel);
 
+    // Both take what they need first (their size hints); more is shared.
     auto* central = new QHBoxLayout(centralWidget());
-    central->addLayout(leftColumn, 1);
-    central->addWidget(m_detailsGroup, 1);
+    central->addLayout(leftColumn);
+    central->addWidget(m_detailsGroup);
 }
 
 QWidget* QCirroCameramanager::buildBottomGroup()
@@ -267,6 +275,7 @@ void QCirroCameramanager::retranslate()
     m_detailsGroup->setTitle(tr("Device details"));
     setWindowTitle(tr("%1 Camera Manager").arg(Identity::makerShortName()));
     m_statusPanel->retranslate();
+    m_cameraList->view()->setPlaceholderText(CameraListPlaceholder::text(m_serviceStates));
     updateDetails(false);
 }
 
@@ -292,6 +301,7 @@ void QCirroCameramanager::onServiceTimer()
     if (states == m_serviceStates)
         return;
     m_serviceStates = states;
+    m_cameraList->view()->setPlaceholderText(CameraListPlaceholder::text(m_serviceStates));
     UpdateControls();
     emit CirrodStatusChanged(m_serviceStates);
 }
@@ -303,11 +313,38 @@ void QCirroCameramanager::enableExpertView(bool enable)
     autoRefresh->setEnabled(enable);
     if (!enable) {
         m_cameraList->setAutoRefresh(false);
+        narrowAfterDetails();
         return;
     }
     m_cameraList->refreshSelectedCamera();
     updateDetails(true);
     m_cameraList->setAutoRefresh(autoRefresh->isChecked());
+    widenForDetails();
+}
+
+void QCirroCameramanager::widenForDetails()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    centralWidget()->layout()->activate();
+    const QRect frame = frameGeometry();
+    const int frameWidth = frame.width() - width();
+    const QRect available = m_availableGeometry.isValid() ? m_availableGeometry : screen()->availableGeometry();
+    const QRect widened = WindowGrowth::widened(frame, sizeHint().width() + frameWidth, available);
+    if (widened == frame)
+        return;
+    m_geometryBeforeDetails = geometry();
+    move(widened.topLeft());
+    resize(widened.width() - frameWidth, height());
+    m_geometryWithDetails = geometry();
+}
+
+void QCirroCameramanager::narrowAfterDetails()
+{
+    // Only as the details left it: a size the user chose since stays.
+    if (m_geometryWithDetails.isValid() && geometry() == m_geometryWithDetails)
+        setGeometry(m_geometryBeforeDetails);
+    m_geometryWithDetails = QRect();
 }
 
 void QCirroCameramanager::onCurrentCameraChanged(const camera::optional<Camera>& camera, bool force)
@@ -414,6 +451,14 @@ bool QCirroCameramanager::autoRefreshWanted() const
 
 void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
 {
+    if (ViewerLauncher::viewerPath().isEmpty()) {
+        const QString settingsFile = UserSettings::open().fileName();
+        Printer(tr("The camera viewer was not found. Install %1 in a folder of the PATH, or set the viewer's path "
+                   "as \"%2\" in %3.")
+                    .arg(ViewerLauncher::viewerProgram(), ViewerLauncher::settingsKey(), settingsFile),
+                Qt::red, false);
+        return;
+    }
     for (const Camera& camera : cameras) {
         if (!camera.inUse())
             ViewerLauncher::open(camera);
@@ -422,7 +467,17 @@ void QCirroCameramanager::onOpenCamera(const QList<Camera>& cameras)
 
 void QCirroCameramanager::onIdentifyCamera(const Camera& camera)
 {
-    CameraActions::identify(camera);
+    Printer(tr("Identifying device %1: it blinks in two seconds ...").arg(camera.deviceId()), Qt::black, true);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    // The wait blocks the window; it starts once the context menu has gone
+    // and the window shows the message without it.
+    QTimer::singleShot(0, this, [this, camera] {
+        repaint();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        CameraActions::identify(camera);
+        QApplication::restoreOverrideCursor();
+        UpdateControls();
+    });
 }
 
 void QCirroCameramanager::onManualEthConfig()
@@ -616,6 +671,15 @@ void QCirroCameramanager::onReadSupportFile()
 
 void QCirroCameramanager::deleteReadOnlyDevice(const Camera& camera)
 {
+    const QMessageBox::StandardButton answer = QMessageBox::question(
+        this, tr("Delete read-only device"),
+        tr("Delete the read-only device %1 (camera ID %2)?\nThe driver forgets it; it comes back only when it is "
+           "added again with \"Add Readonly Device\".")
+            .arg(camera.deviceId())
+            .arg(camera.cameraId()),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    if (answer != QMessageBox::Yes)
+        return;
     const Result result = CameraActions::removeReadOnlyDevice(camera);
     if (!result.isSuccess())
         QMessageBox::critical(this, tr("Delete read-only device"), result.text());
@@ -643,4 +707,14 @@ void QCirroCameramanager::saveSettings() const
     settings.setValue(QStringLiteral("checkExpert"), m_controlArea->expertMode()->isChecked());
     settings.setValue(QStringLiteral("checkRefresh"), m_controlArea->autoRefresh()->isChecked());
     settings.setValue(QStringLiteral("selectedLanguage"), m_languageSelector->currentData());
+}
+
+void QCirroCameramanager::showScenarioError()
+{
+    const QString error = SimulatedDriver::startScenarioError();
+    if (!error.isEmpty()) {
+        m_statusPanel->showOutcomeNote(
+            tr("The scenario file was not loaded, so the simulated driver shows its built-in cameras: %1").arg(error),
+            Qt::red);
+    }
 }

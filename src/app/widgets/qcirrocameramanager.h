@@ -11,6 +11,7 @@
 #include <QFutureWatcher>
 #include <QList>
 #include <QMainWindow>
+#include <QRect>
 
 #include <memory>
 
@@ -46,6 +47,8 @@ public:
         std::unique_ptr<ServiceManager> services;
         // Empty means "lang/cameramanager" below the application's directory.
         QString translationDirectory;
+        // Where the window may grow; invalid means the screen's available area.
+        QRect availableGeometry;
     };
 
     explicit QCirroCameramanager(QWidget* parent = nullptr);
@@ -104,6 +107,10 @@ private:
     void restoreSettings();
     void saveSettings() const;
     void updateDetails(bool force);
+    // Room for the device details beside the camera list, and back.
+    void widenForDetails();
+    void narrowAfterDetails();
+    void showScenarioError();
     void deleteReadOnlyDevice(const Camera& camera);
     void closeUploadProgress();
     void reportVerifiedUpload(quint32 deviceId);
@@ -135,6 +142,9 @@ private:
     // The camera of the running automatic configuration, and its settings before.
     camera::optional<Camera> m_autoConfigCamera;
     EthCameraSettings m_autoConfigBefore;
+    QRect m_availableGeometry;
+    QRect m_geometryBeforeDetails;
+    QRect m_geometryWithDetails; // invalid unless the details made the window wider
     bool m_dialogBusy = false; // while the camera information dialog is open
     bool m_messagesEnabled = true;
 

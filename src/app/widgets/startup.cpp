@@ -2,6 +2,7 @@
 
 #include "app/apiversioncheck.h"
 #include "app/commandline.h"
+#include "app/displaycheck.h"
 #include "app/identity.h"
 #include "app/widgets/qcirrocameramanager.h"
 #include "app/widgets/startupimages.h"
@@ -11,9 +12,12 @@
 #include <cirro_api.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QFont>
 #include <QMessageBox>
 #include <QTimer>
+
+#include <cstdio>
 
 
 namespace Startup {
@@ -61,6 +65,27 @@ void prepareProcess()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+bool windowsPossible(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return DisplayCheck::windowsPossible(arguments, DisplayCheck::Environment::ofProcess());
+}
+
+int runWithoutWindows(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    prepareApplication();
+    CommandLine commandLine;
+    commandLine.process(QCoreApplication::arguments());
+    const QString message =
+        QCoreApplication::translate("main", "%1: there is no display to show the window on (DISPLAY is not set).")
+            .arg(QFileInfo(QCoreApplication::arguments().constFirst()).fileName());
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+    return 1;
 }
 
 void prepareApplication()

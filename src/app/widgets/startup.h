@@ -15,6 +15,13 @@ namespace Startup {
 // Process-wide preparation that must precede the application object.
 void prepareProcess();
 
+// Whether a window can be shown, judged from the command line and the
+// environment before the application object exists.
+bool windowsPossible(int argc, char* argv[]);
+// Without a display: the command line's help and errors as usual, then a
+// one-line message for anything that needs the window; returns the exit code.
+int runWithoutWindows(int argc, char* argv[]);
+
 // Application-wide settings that need the application object: identity and
 // meta-types.
 void prepareApplication();

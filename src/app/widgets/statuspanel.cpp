@@ -82,7 +82,7 @@ void StatusPanel::showBusyIndicator(bool show)
 
 void StatusPanel::showDetails(const StatusAssessment& status, bool hasCamera)
 {
-    if (!hasCamera)
+    if (!hasCamera || status.clearsPicture)
         m_cameraPicture->clear();
     else if (!status.picture.isEmpty())
         m_cameraPicture->setPixmap(QIcon(status.picture).pixmap(QSize(cameraPictureSize, cameraPictureSize)));

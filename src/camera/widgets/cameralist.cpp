@@ -2,10 +2,10 @@
 
 #include "camera/cameracelltexts.h"
 #include "camera/cameralistmodel.h"
+#include "camera/cameratableproxy.h"
 #include "camera/widgets/cameratableview.h"
 
 #include <QMenu>
-#include <QSortFilterProxyModel>
 #include <QTimer>
 
 namespace {
@@ -25,8 +25,7 @@ bool isGigELike(const Camera& camera)
 CameraList::CameraList(QWidget* viewParent, QObject* parent)
     : QObject(parent)
 {
-    m_proxy = new QSortFilterProxyModel(this);
-    m_proxy->setDynamicSortFilter(true);
+    m_proxy = new CameraTableProxy(this);
     m_view = new CameraTableView(viewParent);
     connect(m_view, &CameraTableView::selectedCameraChanged, this, &CameraList::onSelectedCameraChanged);
 

@@ -10,8 +10,8 @@
 #include <memory>
 
 class CameraListModel;
+class CameraTableProxy;
 class CameraTableView;
-class QSortFilterProxyModel;
 class QTimer;
 
 // The main window's camera list: the table view over a sorting proxy of the
@@ -89,7 +89,7 @@ private:
                       void (CameraList::*signal)(const Argument&), const Argument& argument);
 
     CameraTableView* m_view = nullptr;
-    QSortFilterProxyModel* m_proxy = nullptr;
+    CameraTableProxy* m_proxy = nullptr;
     CameraListModel* m_model = nullptr;
     QTimer* m_timer = nullptr;
     camera::optional<Camera> m_selectedCamera;

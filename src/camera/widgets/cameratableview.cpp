@@ -4,6 +4,8 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
 
 CameraTableView::CameraTableView(QWidget* parent)
     : QTableView(parent)
@@ -71,8 +73,36 @@ void CameraTableView::fitColumns()
         return;
     }
     m_fitPending = false;
-    resizeColumnsToContents();
-    // Resizing the last section by hand ends its stretch; start it again.
+    // Without the stretch while fitting: ending it later would give the last
+    // section back the width it had before, stretched or not.
     horizontalHeader()->setStretchLastSection(false);
+    resizeColumnsToContents();
     horizontalHeader()->setStretchLastSection(true);
+    updateGeometry(); // the size hint follows the columns
+}
+
+QSize CameraTableView::sizeHint() const
+{
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < horizontalHeader()->count(); ++column)
+        width += std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    return {width, QTableView::sizeHint().height()};
+}
+
+void CameraTableView::setPlaceholderText(const QString& text)
+{
+    m_placeholder = text;
+    viewport()->update();
+}
+
+void CameraTableView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (m_placeholder.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Text));
+    const int margin = fontMetrics().averageCharWidth() * 2;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
 }

@@ -21,6 +21,12 @@ public:
     // Every column as wide as its contents and header need, the last one
     // stretched to the view's edge. A hidden view does it when it is shown.
     void fitColumns();
+    // Wide enough for every column as fitColumns() makes it.
+    QSize sizeHint() const override;
+
+    // Shown in the middle of the table while it has no rows.
+    void setPlaceholderText(const QString& text);
+    QString placeholderText() const { return m_placeholder; }
 
 signals:
     // The camera of the new current row; empty when no row is current.
@@ -32,8 +38,10 @@ protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     camera::optional<Camera> m_selection;
     bool m_fitPending = false;
+    QString m_placeholder;
 };

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -31,7 +32,10 @@ DeviceInfoView::DeviceInfoView(QWidget* parent)
     connect(m_model, &DeviceInfoModel::updateNeeded, this, &DeviceInfoView::updateNeeded);
     connect(m_model, &QAbstractItemModel::modelReset, this, &DeviceInfoView::showBuiltTree);
     // Rows opened later may hold longer labels.
-    connect(this, &QTreeView::expanded, this, [this] { resizeColumnToContents(0); });
+    connect(this, &QTreeView::expanded, this, [this] {
+        resizeColumnToContents(0);
+        updateGeometry();
+    });
 }
 
 void DeviceInfoView::Update(const Camera* pCamera, bool force_reset)
@@ -42,6 +46,17 @@ void DeviceInfoView::Update(const Camera* pCamera, bool force_reset)
 void DeviceInfoView::UpdateUsbTopology()
 {
     m_model->UpdateUSBTopology();
+}
+
+QSize DeviceInfoView::sizeHint() const
+{
+    // Labels three levels deep of about 28 characters, values of about 24.
+    const int typicalWidth = 3 * indentation() + 52 * fontMetrics().averageCharWidth();
+    int contentsWidth = 0;
+    for (int column = 0; column < header()->count(); ++column)
+        contentsWidth += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
+    const int frame = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {frame + std::max(typicalWidth, contentsWidth), QTreeView::sizeHint().height()};
 }
 
 void DeviceInfoView::onCustomContextMenu(const QPoint& pos)
@@ -86,6 +101,7 @@ void DeviceInfoView::showBuiltTree()
 {
     expandAsBuilt(QModelIndex());
     resizeColumnToContents(0);
+    updateGeometry(); // the size hint follows the rows
 }
 
 void DeviceInfoView::expandAsBuilt(const QModelIndex& parent)

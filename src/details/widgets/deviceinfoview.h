@@ -17,6 +17,9 @@ public:
     explicit DeviceInfoView(QWidget* parent = nullptr);
 
     DeviceInfoModel* deviceInfoModel() const { return m_model; }
+    // Wide enough for the open rows' labels and values, and for those of a
+    // typical camera while the tree is empty or small.
+    QSize sizeHint() const override;
     QAction* copyAction() const { return m_copyAction; }
 
 signals:

@@ -18,7 +18,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFile>
+#include <QElapsedTimer>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
@@ -30,6 +32,7 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTreeView>
 #include <QtTest>
 
 using namespace SimDriverFixture;
@@ -88,7 +91,15 @@ private slots:
     void closingTheWindowWaitsForTheUpload();
     void cameraIdWrittenInTheDialogReachesTheList();
     void failedCameraInformationShowsNothingMore();
-    void deletingAReadOnlyDeviceRemovesIt();
+    void deletingAReadOnlyDeviceAsksFirst_data();
+    void deletingAReadOnlyDeviceAsksFirst();
+    void expertModeGivesListAndDetailsRoom_data();
+    void expertModeGivesListAndDetailsRoom();
+    void emptyListSaysWhy_data();
+    void emptyListSaysWhy();
+    void unknownDeviceClearsThePicture();
+    void openingWithoutViewerSaysHowToSetIt();
+    void identifyingShowsItsWaitOnceTheMenuIsGone();
     void readOnlyDeviceAddedFromTheListCanBeDeletedAgain();
     void automaticConfigurationRepairsACamera();
     void manualConfigurationWithASuggestedAddress();
@@ -98,7 +109,8 @@ private slots:
     void writingASupportFileRestoresTheRefresh();
 
 private:
-    std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations);
+    std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations,
+                                                    const QRect& available = QRect());
     void select(QCirroCameramanager& window, quint32 deviceId);
     // The enabled entry of that text in the selected camera's context menu.
     static QAction* menuEntry(QCirroCameramanager& window, const QString& text);
@@ -134,11 +146,12 @@ void TestMainWindow::cleanup()
     QSettings("Parvel", "CameraManager").clear();
 }
 
-std::unique_ptr<QCirroCameramanager> TestMainWindow::makeWindow(const QString& translations)
+std::unique_ptr<QCirroCameramanager> TestMainWindow::makeWindow(const QString& translations, const QRect& available)
 {
     QCirroCameramanager::Environment environment;
     environment.services = std::make_unique<FakeServices>(&services);
     environment.translationDirectory = translations;
+    environment.availableGeometry = available;
     return std::make_unique<QCirroCameramanager>(std::move(environment));
 }
 
@@ -479,6 +492,7 @@ void TestMainWindow::readOnlyDeviceAddedFromTheListCanBeDeletedAgain()
     const quint32 deviceId = device->deviceId();
 
     select(*window, deviceId);
+    MessageBoxAnswerer answerer(QMessageBox::Yes);
     menuEntry(*window, "&Delete")->trigger();
     QVERIFY(cameraState(deviceId).isEmpty());
     QTRY_VERIFY(!listedReadOnlyDevice(*window, 42));
@@ -519,15 +533,164 @@ void TestMainWindow::failedCameraInformationShowsNothingMore()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-void TestMainWindow::deletingAReadOnlyDeviceRemovesIt()
+void TestMainWindow::deletingAReadOnlyDeviceAsksFirst_data()
 {
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("removed");
+    QTest::newRow("yes") << int(QMessageBox::Yes) << true;
+    QTest::newRow("no") << int(QMessageBox::No) << false;
+}
+
+void TestMainWindow::deletingAReadOnlyDeviceAsksFirst()
+{
+    QFETCH(int, answer);
+    QFETCH(bool, removed);
     const auto window = makeWindow();
     select(*window, 1500);
     QAction* remove = menuEntry(*window, "&Delete");
     QVERIFY(remove);
+    MessageBoxAnswerer answerer{QMessageBox::StandardButton(answer)};
     remove->trigger();
-    QVERIFY(cameraState(1500).isEmpty());
-    QTRY_VERIFY(!window->cameraList()->selectedCamera());
+    QCOMPARE(answerer.seen.size(), 1);
+    QVERIFY2(answerer.seen.first().startsWith(
+                 "Delete read-only device: Delete the read-only device 1500 (camera ID 20)?"),
+             qPrintable(answerer.seen.first()));
+    QCOMPARE(cameraState(1500).isEmpty(), removed);
+    if (removed)
+        QTRY_VERIFY(!window->cameraList()->selectedCamera());
+    else
+        QCOMPARE(window->cameraList()->selectedCamera()->deviceId(), 1500u);
+}
+
+void TestMainWindow::expertModeGivesListAndDetailsRoom_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("available");
+    QTest::newRow("default size") << QSize(960, 780) << QRect(0, 0, 1600, 1000);
+    QTest::newRow("minimum size") << QSize(800, 600) << QRect(0, 0, 1600, 1000);
+    QTest::newRow("screen to the right") << QSize(800, 600) << QRect(1600, 0, 1600, 1000);
+}
+
+void TestMainWindow::expertModeGivesListAndDetailsRoom()
+{
+    QFETCH(QSize, size);
+    QFETCH(QRect, available);
+    const auto window = makeWindow(shippedTranslations, available);
+    window->resize(size);
+    window->move(available.topLeft());
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    select(*window, 1000);
+    const QRect before = window->geometry();
+    child<QCheckBox>(*window, "expertMode")->setChecked(true);
+    QTRY_VERIFY(window->width() > size.width());
+    QVERIFY(available.contains(window->frameGeometry()));
+
+    // Every column of the table and every value of the tree in full.
+    auto* table = window->cameraList()->view();
+    auto* tree = child<QTreeView>(*window, "deviceDetailsView");
+    // What each column's cells need (public in the base class only).
+    const auto needed = [](const QAbstractItemView* view, int column) { return view->sizeHintForColumn(column); };
+    QTRY_VERIFY(table->horizontalHeader()->length() <= table->viewport()->width());
+    for (int column = 0; column < table->model()->columnCount(); ++column)
+        QVERIFY2(table->columnWidth(column) >= needed(table, column), qPrintable(QString::number(column)));
+    QVERIFY(tree->header()->length() <= tree->viewport()->width());
+    QVERIFY(tree->columnWidth(0) >= needed(tree, 0));
+    QVERIFY(tree->columnWidth(1) >= needed(tree, 1));
+
+    // Without the details the window has its size again.
+    child<QCheckBox>(*window, "expertMode")->setChecked(false);
+    QCOMPARE(window->geometry(), before);
+}
+
+void TestMainWindow::emptyListSaysWhy_data()
+{
+    QTest::addColumn<int>("usb");
+    QTest::addColumn<int>("eth");
+    QTest::addColumn<QStringList>("said");
+    QTest::addColumn<QStringList>("notSaid");
+    const int running = CoreStates::Running;
+    QTest::newRow("services running") << running << running << QStringList{"No cameras found."}
+                                      << QStringList{"cirro_usb", "cirro_eth"};
+    QTest::newRow("USB service stopped") << int(CoreStates::NotRunning) << running
+                                         << QStringList{"No cameras found.", "cirro_usb", "systemctl start cirro_usb"}
+                                         << QStringList{"cirro_eth"};
+    QTest::newRow("ETH service stopped") << running << int(CoreStates::NotRunning)
+                                         << QStringList{"No cameras found.", "cirro_eth", "\"ETH network service\""}
+                                         << QStringList{"cirro_usb"};
+    QTest::newRow("ETH service absent") << running << int(CoreStates::NotInstalled)
+                                        << QStringList{"cirro_eth", "not installed"} << QStringList{"cirro_usb"};
+}
+
+void TestMainWindow::emptyListSaysWhy()
+{
+    QFETCH(int, usb);
+    QFETCH(int, eth);
+    QFETCH(QStringList, said);
+    QFETCH(QStringList, notSaid);
+    QCOMPARE(pvsim_LoadScenarioText(R"({"cameras": []})"), PV_OK);
+    const auto window = makeWindow();
+    QCOMPARE(window->cameraList()->view()->model()->rowCount(), 0);
+    services = {CoreStates::State(usb), CoreStates::State(eth)};
+    window->onServiceTimer();
+    const QString placeholder = window->cameraList()->view()->placeholderText();
+    for (const QString& text : said)
+        QVERIFY2(placeholder.contains(text), qPrintable(placeholder));
+    for (const QString& text : notSaid)
+        QVERIFY2(!placeholder.contains(text), qPrintable(placeholder));
+}
+
+void TestMainWindow::unknownDeviceClearsThePicture()
+{
+    const auto window = makeWindow();
+    auto* picture = child<QLabel>(*window, "cameraPicture");
+    select(*window, 0);
+    QVERIFY(!picture->pixmap(Qt::ReturnByValue).isNull());
+    select(*window, 2500);
+    QVERIFY(picture->pixmap(Qt::ReturnByValue).isNull());
+    const QString status = child<QLabel>(*window, "statusText")->text();
+    QVERIFY2(status.contains("Status of device 2500: The device is of a kind that this version of the Camera Manager "
+                             "does not know"),
+             qPrintable(status));
+}
+
+void TestMainWindow::openingWithoutViewerSaysHowToSetIt()
+{
+    const QByteArray path = qgetenv("PATH");
+    QTemporaryDir empty;
+    qputenv("PATH", empty.path().toLocal8Bit());
+    const auto window = makeWindow();
+    select(*window, 0);
+    menuEntry(*window, "&Open this camera")->trigger();
+    qputenv("PATH", path);
+    const QString status = child<QLabel>(*window, "statusText")->text();
+    QVERIFY2(status.startsWith("<font color='#ff0000'>The camera viewer was not found."), qPrintable(status));
+    QVERIFY2(status.contains("CirroViewer") && status.contains("viewer/path")
+                 && status.contains(QSettings("Parvel", "CameraManager").fileName()),
+             qPrintable(status));
+}
+
+void TestMainWindow::identifyingShowsItsWaitOnceTheMenuIsGone()
+{
+    const auto window = makeWindow();
+    window->show();
+    select(*window, 0);
+    QElapsedTimer triggered;
+    triggered.start();
+    menuEntry(*window, "&Identify this camera")->trigger();
+    // Nothing blocks yet: the menu closes and the window says what happens.
+    QVERIFY(triggered.elapsed() < 1000);
+    QCOMPARE(cameraState(0).value("identifyCount").toInt(), 0);
+    QVERIFY(QApplication::overrideCursor());
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QVERIFY(child<QLabel>(*window, "busyIndicator")->isVisible());
+    QCOMPARE(child<QLabel>(*window, "statusText")->text(),
+             QStringLiteral("<font color='#000000'>Identifying device 0: it blinks in two seconds ...</font>"));
+
+    QTRY_COMPARE_WITH_TIMEOUT(cameraState(0).value("identifyCount").toInt(), 1, 10000);
+    QTRY_VERIFY(!QApplication::overrideCursor());
+    QVERIFY(!child<QLabel>(*window, "busyIndicator")->isVisible());
+    QVERIFY(child<QLabel>(*window, "statusText")->text().contains("Status of device 0:"));
 }
 
 void TestMainWindow::automaticConfigurationRepairsACamera()

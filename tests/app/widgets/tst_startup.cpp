@@ -31,7 +31,10 @@ private slots:
 
     void oldLibraryIsRefusedWithMessageAndExitCodeZero();
     void supportedLibraryShowsTheMainWindow();
+    void helpShowsDescriptionAndBothOptions_data();
     void helpShowsDescriptionAndBothOptions();
+    void withoutDisplayAWindowIsRefusedInOneLine_data();
+    void withoutDisplayAWindowIsRefusedInOneLine();
     void dialogOptionOpensItsDialog_data();
     void dialogOptionOpensItsDialog();
 
@@ -63,11 +66,41 @@ void TestStartup::versionAcceptance()
     QCOMPARE(ApiVersionCheck::isSupported(version), accepted);
 }
 
+namespace {
+
+QStringList warnings;
+
+void collectWarning(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        warnings << message;
+}
+
+// The program as a user starts it from a shell, with or without a display.
+QProcess* startProgram(const QStringList& arguments, bool display, QObject* parent)
+{
+    auto* program = new QProcess(parent);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!display) {
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
+    }
+    program->setProcessEnvironment(environment);
+    program->start(QStringLiteral(CAMERAMANAGER_EXECUTABLE), arguments);
+    return program;
+}
+
+} // namespace
+
 void TestStartup::refusalTextNamesLibraryAndMinimum()
 {
-    QCOMPARE(ApiVersionCheck::refusalText(),
-             QStringLiteral("Parvel Cirro Camera Manager 4.97.0.0 doesn't work with\n"
-                            "libParvel Cirro_api < 4.81!\nuse a newer libParvel Cirro!"));
+    warnings.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(collectWarning);
+    const QString text = ApiVersionCheck::refusalText();
+    qInstallMessageHandler(previous);
+    QCOMPARE(text, QStringLiteral("Parvel Cirro Camera Manager 4.97.0.0 doesn't work with\n"
+                                  "libParvel Cirro_api < 4.81!\nuse a newer libParvel Cirro!"));
+    QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
 }
 
 void TestStartup::dialogToOpen_data()
@@ -169,10 +202,20 @@ void TestStartup::supportedLibraryShowsTheMainWindow()
     QCOMPARE(exitCode, 0);
 }
 
+void TestStartup::helpShowsDescriptionAndBothOptions_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<bool>("display");
+    QTest::newRow("--help") << "--help" << true;
+    QTest::newRow("--help without display") << "--help" << false;
+    QTest::newRow("-h without display") << "-h" << false;
+}
+
 void TestStartup::helpShowsDescriptionAndBothOptions()
 {
-    QProcess program;
-    program.start(QStringLiteral(CAMERAMANAGER_EXECUTABLE), {QStringLiteral("--help")});
+    QFETCH(QString, option);
+    QFETCH(bool, display);
+    QProcess& program = *startProgram({option}, display, this);
     QVERIFY(program.waitForFinished(30000));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
@@ -185,6 +228,29 @@ void TestStartup::helpShowsDescriptionAndBothOptions()
     QVERIFY(help.contains("Open Daemon control"));
     QVERIFY(help.contains("--help"));
     QVERIFY(!help.contains("--version"));
+}
+
+void TestStartup::withoutDisplayAWindowIsRefusedInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    const QString noDisplay = "cameramanager: there is no display to show the window on (DISPLAY is not set).\n";
+    QTest::newRow("no option") << QStringList() << noDisplay;
+    QTest::newRow("-a") << QStringList{"-a"} << noDisplay;
+    QTest::newRow("--daemon-config") << QStringList{"--daemon-config"} << noDisplay;
+    QTest::newRow("unknown option") << QStringList{"--frobnicate"}
+                                    << "Parvel Camera Manager: Unknown option 'frobnicate'.\n";
+}
+
+void TestStartup::withoutDisplayAWindowIsRefusedInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QProcess& program = *startProgram(arguments, false, this);
+    QVERIFY(program.waitForFinished(30000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QVERIFY(program.exitCode() != 0);
+    QTEST(QString::fromLocal8Bit(program.readAllStandardError()), "message");
+    QVERIFY(program.readAllStandardOutput().isEmpty());
 }
 
 void TestStartup::dialogOptionOpensItsDialog_data()

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
+#include <QScrollBar>
 #include <QtTest>
 
 using namespace SimDriverFixture;
@@ -78,6 +79,8 @@ private slots:
     void rebootNeedsExactlyCtrlAlt();
     void languageChangeRebuildsTheHeaders();
     void columnsFitTheirContentsOnceShown();
+    void tableAtItsSizeHintShowsEveryColumn();
+    void emptyTableShowsItsPlaceholder();
 
 private:
     void select(quint32 deviceId);
@@ -327,6 +330,56 @@ void TestCameraList::columnsFitTheirContentsOnceShown()
     view->resizeColumnsToContents();
     for (int column = 0; column < last; ++column)
         QCOMPARE(shown.at(column), view->columnWidth(column));
+}
+
+void TestCameraList::tableAtItsSizeHintShowsEveryColumn()
+{
+    // Serial numbers narrower than a column's default width.
+    QCOMPARE(pvsim_LoadScenarioText(R"({"cameras": [{"kind": "usb", "serial": "1"}, {"kind": "usb", "serial": "2"},
+        {"kind": "usb", "serial": "3"}, {"kind": "usb", "serial": "4"}, {"kind": "usb", "serial": "5"}]})"),
+             PV_OK);
+    QTRY_COMPARE(list->model()->rowCount(), 5);
+    CameraTableView* view = list->view();
+    // Fitted while wide, so that the last column stretched far, then narrowed;
+    // rows enough for the vertical scroll bar.
+    view->setGeometry(0, 0, 1400, 100);
+    window->resize(1400, 100);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    select(1);
+    view->resize(view->sizeHint().width(), 100);
+    QVERIFY(view->verticalScrollBar()->isVisible());
+    QCOMPARE(view->horizontalHeader()->length(), view->viewport()->width());
+    QVERIFY(!view->horizontalScrollBar()->isVisible());
+}
+
+void TestCameraList::emptyTableShowsItsPlaceholder()
+{
+    CameraTableView* view = list->view();
+    window->resize(600, 300);
+    view->setGeometry(0, 0, 600, 300);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    const QImage withRows = view->viewport()->grab().toImage();
+    view->setPlaceholderText("No cameras found.");
+    // Rows hide it ...
+    QCOMPARE(view->viewport()->grab().toImage(), withRows);
+    QCOMPARE(pvsim_LoadScenarioText(R"({"cameras": []})"), PV_OK);
+    QTRY_COMPARE(view->model()->rowCount(), 0);
+    const QImage empty = view->viewport()->grab().toImage();
+    // ... an empty table shows it, in its middle.
+    view->setPlaceholderText(QString());
+    const QImage blank = view->viewport()->grab().toImage();
+    QVERIFY(empty != blank);
+    QRect drawn;
+    for (int y = 0; y < empty.height(); ++y) {
+        for (int x = 0; x < empty.width(); ++x) {
+            if (empty.pixel(x, y) != blank.pixel(x, y))
+                drawn |= QRect(x, y, 1, 1);
+        }
+    }
+    QVERIFY(qAbs(drawn.center().y() - empty.rect().center().y()) < empty.height() / 8);
+    QVERIFY(qAbs(drawn.center().x() - empty.rect().center().x()) < empty.width() / 8);
 }
 
 QTEST_MAIN(TestCameraList)
