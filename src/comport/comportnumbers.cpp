@@ -49,7 +49,7 @@ QString ComPortNumbers::warning(quint32 number) const
         return {};
     if (holder->installed)
         return tr("Camera %1 has COM port %2 installed.").arg(holder->deviceId).arg(number);
-    return tr("Camera %1 has COM port %2 saved; on another computer the two cameras would want the same port.")
+    return tr("Camera %1 has COM port %2 saved too; the two would clash on another computer.")
         .arg(holder->deviceId)
         .arg(number);
 }

@@ -17,12 +17,13 @@
 
 namespace {
 
-QLabel* valueLabel(const char* name, QWidget* parent)
+// Device paths and answers stay on their lines; messages wrap.
+QLabel* valueLabel(const char* name, QWidget* parent, bool wrap = false)
 {
     auto* label = new QLabel(parent);
     label->setObjectName(QLatin1String(name));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setWordWrap(true);
+    label->setWordWrap(wrap);
     return label;
 }
 
@@ -45,7 +46,7 @@ ComDialog::ComDialog(const Camera& camera, QList<std::shared_ptr<Camera>> listed
 {
     setObjectName(QStringLiteral("comDialog"));
     setWindowTitle(tr("COM port configuration"));
-    m_status = valueLabel("status", this);
+    m_status = valueLabel("status", this, true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
@@ -189,6 +190,7 @@ void ComDialog::refresh()
 void ComDialog::onNumberChanged(int number)
 {
     m_warning->setText(m_numbers.warning(quint32(number)));
+    m_warning->setVisible(!m_warning->text().isEmpty());
 }
 
 void ComDialog::onInstall()
