@@ -6,7 +6,6 @@
 #include "fleetcamera.h"
 #include "simdriverfixture.h"
 
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace SimDriverFixture;
@@ -32,22 +31,15 @@ class TestComPortNumbers : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QVERIFY(m_runtime.use()); }
     void init();
 
     void claims_data();
     void claims();
-    void defaultIsTheStoredNumber();
 
 private:
-    QTemporaryDir m_runtime;
+    PrivateRuntimeDir m_runtime;
 };
-
-void TestComPortNumbers::initTestCase()
-{
-    QVERIFY(m_runtime.isValid());
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
-}
 
 void TestComPortNumbers::init()
 {
@@ -86,13 +78,6 @@ void TestComPortNumbers::claims()
     QCOMPARE(others.holderOf(140u).has_value(), true);
     QVERIFY(!others.holderOf(140u)->installed);
     QVERIFY(others.checkInstall(101u).isSuccess()); // its own port
-}
-
-void TestComPortNumbers::defaultIsTheStoredNumber()
-{
-    QCOMPARE(ComPortNumbers::defaultNumber(fleetCamera(serialCamera)), 140u);
-    QCOMPARE(pvsim_ChangeCamera(serialCamera, R"({"comPortOffset": 0})"), PV_OK);
-    QCOMPARE(ComPortNumbers::defaultNumber(fleetCamera(serialCamera)), 100u);
 }
 
 QTEST_GUILESS_MAIN(TestComPortNumbers)
