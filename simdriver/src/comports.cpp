@@ -37,6 +37,7 @@ ComPorts::~ComPorts()
         std::lock_guard lock(m_mutex);
         m_stopping = true;
     }
+    m_roundDone.notify_all();
     m_waiter.wake();
     if (m_thread.joinable())
         m_thread.join();
@@ -82,32 +83,55 @@ Result ComPorts::open(std::uint32_t key, std::uint32_t number, std::vector<Seria
         return r;
     port.number = number;
     port.cameras = std::move(cameras);
-    {
-        std::lock_guard lock(m_mutex);
-        m_ports[key] = std::move(port); // a port the camera had closes here
-        if (!m_thread.joinable())
-            m_thread = std::thread(&ComPorts::run, this);
-    }
-    m_waiter.wake();
+    std::vector<Port> closing;
+    std::unique_lock lock(m_mutex);
+    if (const auto earlier = m_ports.find(key); earlier != m_ports.end())
+        closing.push_back(std::move(earlier->second));
+    m_ports[key] = std::move(port);
+    if (!m_thread.joinable())
+        m_thread = std::thread(&ComPorts::run, this);
+    retire(lock, closing);
+    m_waiter.wake(); // the new port joins the poll
     return success();
 }
 
 void ComPorts::remove(std::uint32_t deviceId)
 {
-    {
-        std::lock_guard lock(m_mutex);
-        m_ports.erase(deviceId);
+    std::vector<Port> closing;
+    std::unique_lock lock(m_mutex);
+    if (const auto found = m_ports.find(deviceId); found != m_ports.end()) {
+        closing.push_back(std::move(found->second));
+        m_ports.erase(found);
     }
-    m_waiter.wake();
+    retire(lock, closing);
 }
 
 void ComPorts::clear()
 {
-    {
-        std::lock_guard lock(m_mutex);
-        m_ports.clear();
+    std::vector<Port> closing;
+    std::unique_lock lock(m_mutex);
+    for (auto& [key, port] : m_ports)
+        closing.push_back(std::move(port));
+    m_ports.clear();
+    retire(lock, closing);
+}
+
+void ComPorts::retire(std::unique_lock<std::mutex>& lock, std::vector<Port>& closing)
+{
+    if (closing.empty() || !m_thread.joinable()) {
+        lock.unlock();
+        return;
     }
+    // A port that the service thread still polls stays open under the poll:
+    // wait until it polls the ports that are left, so that clients read a
+    // hang-up as soon as the port is gone.
+    const std::uint64_t round = m_round;
+    lock.unlock();
     m_waiter.wake();
+    lock.lock();
+    m_roundDone.wait(lock, [&] { return m_round != round || m_stopping; });
+    lock.unlock();
+    closing.clear();
 }
 
 void ComPorts::fill(std::uint32_t key, pv_ComPortInfo& info) const
@@ -148,31 +172,29 @@ std::vector<SerialIdentity> ComPorts::broadcastIdentities(const Fleet& fleet)
 std::vector<std::pair<std::uint32_t, std::uint32_t>> ComPorts::follow(const Fleet& fleet)
 {
     std::vector<std::pair<std::uint32_t, std::uint32_t>> closed;
-    {
-        std::lock_guard lock(m_mutex);
-        if (m_ports.empty())
-            return closed;
-        const auto visible = fleet.visibleCameras();
-        for (auto it = m_ports.begin(); it != m_ports.end();) {
-            if (it->first == broadcastKey) {
-                it->second.cameras = broadcastIdentities(fleet);
-                ++it;
-                continue;
-            }
-            const auto& cameras = fleet.cameras();
-            const auto camera = cameras.find(it->first);
-            if (camera == cameras.end()) {
-                closed.emplace_back(it->first, it->second.number);
-                it = m_ports.erase(it);
-                continue;
-            }
-            const bool shown = std::find(visible.begin(), visible.end(), &camera->second) != visible.end();
-            it->second.cameras = {identityOf(camera->second, shown)};
+    std::vector<Port> closing;
+    std::unique_lock lock(m_mutex);
+    if (m_ports.empty())
+        return closed;
+    const auto visible = fleet.visibleCameras();
+    for (auto it = m_ports.begin(); it != m_ports.end();) {
+        if (it->first == broadcastKey) {
+            it->second.cameras = broadcastIdentities(fleet);
             ++it;
+            continue;
         }
+        const auto camera = fleet.cameras().find(it->first);
+        if (camera == fleet.cameras().end()) {
+            closed.emplace_back(it->first, it->second.number);
+            closing.push_back(std::move(it->second));
+            it = m_ports.erase(it);
+            continue;
+        }
+        const bool shown = std::find(visible.begin(), visible.end(), &camera->second) != visible.end();
+        it->second.cameras = {identityOf(camera->second, shown)};
+        ++it;
     }
-    if (!closed.empty())
-        m_waiter.wake();
+    retire(lock, closing);
     return closed;
 }
 
@@ -186,6 +208,8 @@ void ComPorts::run()
         lock.unlock();
         const std::vector<int> readable = m_waiter.wait(fds);
         lock.lock();
+        ++m_round;
+        m_roundDone.notify_all();
         // A port closed meanwhile is gone from the map; its descriptor may
         // already belong to a new port, which then reads nothing or its own input.
         for (auto& [key, port] : m_ports) {

@@ -5,6 +5,7 @@
 
 #include <cirro_api.h>
 
+#include <condition_variable>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -55,12 +56,17 @@ private:
 
     Result open(std::uint32_t key, std::uint32_t number, std::vector<SerialIdentity> cameras);
     void fill(std::uint32_t key, pv_ComPortInfo& info) const;
+    // Closes ports taken out of the map once the service thread has let go of
+    // them; unlocks.
+    void retire(std::unique_lock<std::mutex>& lock, std::vector<Port>& closing);
     void run();
     void serve(std::uint32_t key, Port& port);
 
     mutable std::mutex m_mutex;
     std::map<std::uint32_t, Port> m_ports; // by device ID; broadcastKey: the broadcast port
     PortWaiter m_waiter;
+    std::condition_variable m_roundDone;
+    std::uint64_t m_round = 0; // rounds of the service thread: one per wait
     bool m_stopping = false;
     std::thread m_thread;
 };

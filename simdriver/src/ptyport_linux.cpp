@@ -63,13 +63,14 @@ Result PtyPort::open(const std::string& linkPath, std::unique_ptr<PtyPort>& port
 
 PtyPort::~PtyPort()
 {
-    // Another driver process may have linked the name to a port of its own since.
-    if (!m_linkPath.empty() && linkTarget(m_linkPath) == m_terminalPath)
-        ::unlink(m_linkPath.c_str());
+    // Closed before the link goes, so that a port without link has hung up.
     if (m_terminal >= 0)
         ::close(m_terminal);
     if (m_controller >= 0)
         ::close(m_controller);
+    // Another driver process may have linked the name to a port of its own since.
+    if (!m_linkPath.empty() && linkTarget(m_linkPath) == m_terminalPath)
+        ::unlink(m_linkPath.c_str());
 }
 
 std::string PtyPort::read()
