@@ -56,7 +56,8 @@ enum pv_ReturnCode {
     PV_ERR_BOOT_BOOST_ACTIVE = 129,
     PV_ERR_NOT_SUPPORTED = 155,
     PV_ERR_FIRMWARE_UNAVAILABLE = 156,
-    PV_ERR_CANCELLED = 157
+    PV_ERR_CANCELLED = 157,
+    PV_ERR_PORT_TAKEN = 158
 };
 
 /* -------------------------------------------------- handles and device IDs */
@@ -483,6 +484,52 @@ typedef struct pv_LiquidLens {
 #define PV_CAMCMD_FPN_FACTORY_RESET 0x32u      /* the factory calibration is used again */
 #define PV_CAMCMD_LENS_STORE_STARTUP 0x40u     /* the current focal power becomes the start-up value */
 
+/* ------------------------------------------------------ virtual COM ports */
+
+/* The driver backs a virtual serial port for a camera with a serial interface
+ * on request, and one broadcast port that addresses every camera. On Linux a
+ * port is a character device (or, on the simulated driver, a link to a
+ * pseudo-terminal) whose path the driver reports. A library without COM port
+ * support answers PV_ERR_UNKNOWN_COMMAND to every code of this section. */
+
+/* Port numbers a camera's port can have; the broadcast port has its own. */
+#define PV_COMPORT_NUMBER_BASE 100u /* the number of a camera whose stored offset is 0 */
+#define PV_COMPORT_NUMBER_MIN 100u
+#define PV_COMPORT_NUMBER_MAX 254u
+#define PV_COMPORT_BROADCAST_NUMBER 255u
+
+/* pv_Configuration: a uint32_t, 1 when the driver's COM port support is
+ * installed, else 0 (and the commands below fail with PV_ERR_NOT_SUPPORTED). */
+#define PV_CONFIG_GET_COMPORT_SUPPORT 0x1100u
+/* pv_Configuration: the broadcast port, switched with a uint32_t 1 (on) or
+ * 0 (off), read as a pv_ComPortInfo. */
+#define PV_CONFIG_SET_COMPORT_BROADCAST 0x1101u
+#define PV_CONFIG_GET_COMPORT_BROADCAST 0x1102u
+
+/* pv_CameraCommand by device ID or open handle. Install takes the uint32_t
+ * port number and moves a port the camera has already; a number outside
+ * PV_COMPORT_NUMBER_MIN to _MAX fails with PV_ERR_INVALID_PARAMETER, one that
+ * another camera's port has with PV_ERR_PORT_TAKEN. Remove takes no
+ * parameter; removing a port that is not installed succeeds. A camera
+ * without serial interface answers PV_ERR_NOT_SUPPORTED. */
+#define PV_CAMCMD_COMPORT_INSTALL 0x50u
+#define PV_CAMCMD_COMPORT_REMOVE 0x51u
+
+/* pv_DeviceInfo by device ID or open handle: the camera's port, a pv_ComPortInfo. */
+#define PV_DEVINFO_COMPORT 0x2010020u
+
+/* pv_DeviceFeature by device ID or open handle: the port number stored in
+ * the camera, a uint32_t from PV_COMPORT_NUMBER_MIN to _MAX, so that the
+ * camera gets the same port on every host. The device information's
+ * comPortOffset is that number minus PV_COMPORT_NUMBER_BASE. */
+#define PV_FEATURE_COMPORT_NUMBER 37u
+
+typedef struct pv_ComPortInfo {
+    uint32_t installed;   /* 1 while the port exists */
+    uint32_t number;      /* 0 when not installed */
+    char devicePath[120]; /* NUL-terminated; empty when not installed */
+} pv_ComPortInfo;
+
 /* ------------------------------------------------------------------ events */
 
 #define PV_EVENT_INIT 1u
@@ -690,6 +737,7 @@ PV_STATIC_ASSERT(sizeof(pv_ParameterValue) == 32, "parameter value");
 PV_STATIC_ASSERT(sizeof(pv_ParameterSet) == 536, "parameter set");
 PV_STATIC_ASSERT(sizeof(pv_FpnStatus) == 40, "FPN status");
 PV_STATIC_ASSERT(sizeof(pv_LiquidLens) == 16, "liquid lens block");
+PV_STATIC_ASSERT(sizeof(pv_ComPortInfo) == 128, "COM port block");
 PV_STATIC_ASSERT(sizeof(pv_EventInit) == 12, "event init block");
 PV_STATIC_ASSERT(sizeof(pv_EventWait) == 32, "event wait block");
 PV_STATIC_ASSERT(offsetof(pv_EventWait, count) == 8, "wait: count");

@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
     build-essential cmake ninja-build ccache pkg-config
-    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libqt5serialport5-dev
     libboost-dev libbenchmark-dev
     iproute2 xvfb xauth fonts-dejavu-core fonts-droid-fallback
     pci.ids usb.ids dbus-daemon

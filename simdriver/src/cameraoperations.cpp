@@ -246,6 +246,8 @@ Result deviceInfo(SimDriver& driver, std::uint32_t handle, std::uint32_t command
 {
     if (command == PV_DEVINFO_UPLOAD_PROGRESS)
         return uploadProgress(driver, handle, block, size);
+    if (command == PV_DEVINFO_COMPORT)
+        return comPortInfo(driver, handle, block, size);
     if (command != PV_DEVINFO_READ && command != PV_DEVINFO_READ_EXTENDED)
         return failure(PV_ERR_UNKNOWN_COMMAND, "pv_DeviceInfo: unknown command " + std::to_string(command));
     const bool extended = command == PV_DEVINFO_READ_EXTENDED;
@@ -275,6 +277,8 @@ Result deviceInfo(SimDriver& driver, std::uint32_t handle, std::uint32_t command
 Result deviceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t command, std::uint32_t feature,
                      std::uint32_t index, void* block, std::uint32_t size)
 {
+    if (feature == PV_FEATURE_COMPORT_NUMBER)
+        return comPortNumberFeature(driver, handle, command, index, block, size);
     if (command != PV_FEATURE_READ || feature != PV_FEATURE_DEVICE_CAPABILITIES || index != 0)
         return maintenanceFeature(driver, handle, command, feature, index, block, size);
     return readFeatureBlock(driver, handle, block, size, [](const SimCamera& camera, pv_FeatureBlock& features) {
@@ -330,6 +334,8 @@ Result rebootDevice(SimDriver& driver, std::uint32_t handle, std::uint32_t mode)
 Result cameraCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
                      std::uint32_t size)
 {
+    if (isComPortCommand(command))
+        return comPortCommand(driver, handle, command, parameter, size);
     if (command != PV_CAMCMD_IDENTIFY)
         return maintenanceCommand(driver, handle, command, parameter, size);
     if (Result r = checkBuffer(parameter, size, 4, "pv_CameraCommand"); !r.ok())

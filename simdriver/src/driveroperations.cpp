@@ -115,6 +115,8 @@ Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, voi
 
 Result configuration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size)
 {
+    if (isComPortConfiguration(command))
+        return comPortConfiguration(driver, command, buffer, size);
     for (const ConfigWord& word : configWords) {
         // A read-only word has write command 0, which must not match command 0.
         if (command != word.readCommand && (word.writeCommand == 0 || command != word.writeCommand))

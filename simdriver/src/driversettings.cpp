@@ -63,6 +63,7 @@ Result DriverSettings::apply(const QJsonObject& json)
     reader.readInt("memoryCompat", memoryCompat, 0, 1);
     reader.readInt("summitCompat", summitCompat, 0, 0xFFFFFFFFll);
     reader.readInt("readOnlyMulticast", readOnlyMulticast, 0, 1);
+    reader.read("comPorts", comPortSupport);
     return reader.finish();
 }
 

@@ -33,6 +33,7 @@ struct DriverSettings
     std::uint32_t memoryCompat = 0;
     std::uint32_t summitCompat = 0;
     std::uint32_t readOnlyMulticast = 1;
+    bool comPortSupport = true; // the COM port part of the driver is installed
 
     bool usbServiceInstalled = true;
     bool usbServiceRunning = true;

@@ -32,6 +32,17 @@ Result maintenanceFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t
 Result maintenanceCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
                           std::uint32_t size);
 
+// The virtual COM ports: the driver-wide support flag and broadcast port, a
+// camera's port, and the port number stored in the camera.
+bool isComPortConfiguration(std::uint32_t command);
+bool isComPortCommand(std::uint32_t command);
+Result comPortConfiguration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size);
+Result comPortCommand(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* parameter,
+                      std::uint32_t size);
+Result comPortInfo(SimDriver& driver, std::uint32_t handle, void* block, std::uint32_t size);
+Result comPortNumberFeature(SimDriver& driver, std::uint32_t handle, std::uint32_t command, std::uint32_t index,
+                            void* block, std::uint32_t size);
+
 Result event(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* block, std::uint32_t size);
 Result configuration(SimDriver& driver, std::uint32_t command, void* buffer, std::uint32_t size);
 Result bootBoost(SimDriver& driver, std::uint32_t handle, std::uint32_t command, void* buffer, std::uint32_t size);

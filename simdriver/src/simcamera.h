@@ -36,6 +36,11 @@ struct SimCamera
     bool isOnNetwork() const;
     bool isOpen() const { return openHandle != 0; }
     bool inUse() const { return isOpen() || openedElsewhere; }
+    // The camera types with a serial interface, which the driver can back with a virtual COM port.
+    bool hasSerialInterface() const
+    {
+        return typeCode == 0x62 || typeCode == 0x64 || typeCode == 0x65 || typeCode == 0x80;
+    }
 
     // Recomputes the derived words; `rangeAddress` is the address the camera
     // takes from its adapter's range when it has no persistent one (0: none).

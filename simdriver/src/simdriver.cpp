@@ -56,6 +56,7 @@ SimDriver::SimDriver()
 Result SimDriver::load(Scenario scenario)
 {
     m_scheduler.cancelAll();
+    m_comPorts.clear();
     readConfiguration(scenario.fleet);
     change([&](Fleet& fleet) {
         fleet = std::move(scenario.fleet);
@@ -128,6 +129,16 @@ void SimDriver::tracePlug(std::uint32_t deviceId, const char* what)
 {
     m_tracer.trace(serviceOfDevice(deviceId), TraceCategory::pnp,
                    [&] { return "device " + std::to_string(deviceId) + ' ' + what; });
+}
+
+void SimDriver::tracePortsClosed(const std::vector<std::pair<std::uint32_t, std::uint32_t>>& closed)
+{
+    for (const auto& [deviceId, number] : closed) {
+        m_tracer.trace(serviceOfDevice(deviceId), TraceCategory::pnp, [deviceId = deviceId, number = number] {
+            return "COM port " + std::to_string(number) + " of device " + std::to_string(deviceId)
+                   + " removed with the device";
+        });
+    }
 }
 
 void SimDriver::scheduleTimeline(const std::vector<TimelineEvent>& timeline)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comports.h"
 #include "eventhub.h"
 #include "faultinjector.h"
 #include "fleet.h"
@@ -43,6 +44,7 @@ public:
     void readConfiguration(Fleet& fleet);
 
     EventHub& events() { return m_events; }
+    ComPorts& comPorts() { return m_comPorts; }
     FaultInjector& faults() { return m_faults; }
     Scheduler& scheduler() { return m_scheduler; }
     Tracer& tracer() { return m_tracer; }
@@ -60,6 +62,7 @@ private:
     void signalDifferences(const std::map<std::uint32_t, std::string>& before,
                            const std::map<std::uint32_t, std::string>& after);
     void tracePlug(std::uint32_t deviceId, const char* what);
+    void tracePortsClosed(const std::vector<std::pair<std::uint32_t, std::uint32_t>>& closed);
     void scheduleTimeline(const std::vector<TimelineEvent>& timeline);
     void runTimelineEvent(const TimelineEvent& event);
 
@@ -72,6 +75,7 @@ private:
     FaultInjector m_faults;
     Tracer m_tracer;
     std::string m_startScenarioError; // written once, before any caller sees the driver
+    ComPorts m_comPorts; // before the scheduler, whose actions may change the fleet
     Scheduler m_scheduler; // last: its thread stops before the rest goes
 };
 
@@ -79,6 +83,7 @@ template <typename Action>
 Result SimDriver::change(Action&& action)
 {
     std::map<std::uint32_t, std::string> before, after;
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> closedPorts;
     Result result;
     {
         std::lock_guard lock(m_mutex);
@@ -86,8 +91,10 @@ Result SimDriver::change(Action&& action)
         before = std::move(m_fingerprints);
         m_fingerprints = m_fleet.recompute();
         after = m_fingerprints;
+        closedPorts = m_comPorts.follow(m_fleet);
     }
     signalDifferences(before, after);
+    tracePortsClosed(closedPorts);
     return result;
 }
 

@@ -113,6 +113,7 @@ QJsonObject settingsReport(const DriverSettings& settings)
         {"memoryCompat", qint64(settings.memoryCompat)},
         {"summitCompat", qint64(settings.summitCompat)},
         {"readOnlyMulticast", qint64(settings.readOnlyMulticast)},
+        {"comPorts", settings.comPortSupport},
         {"usbServiceRunning", settings.usbServiceRunning},
         {"ethServiceRunning", settings.ethServiceRunning},
         {"registry", registry},

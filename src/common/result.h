@@ -53,6 +53,9 @@ enum Code : int {
     UnreadableFile = 14,
     // What a device reports after a change differs from what was written.
     VerificationFailed = 15,
+    // A serial port that stayed silent, or answered something unexpected.
+    NoAnswer = 16,
+    UnexpectedAnswer = 17,
     // Nobody answered an ARP probe in time. The value is what Windows' SendARP
     // reports for the same case, and what the free-address search takes as
     // "free".

@@ -11,6 +11,8 @@
 #include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "common/usersettings.h"
+#include "comport/comporttest.h"
+#include "comport/widgets/comdialog.h"
 #include "dialogs/widgets/multicastdialog.h"
 #include "driver/debugmask.h"
 #include "driver/driverconfiguration.h"
@@ -241,6 +243,30 @@ bool shootCameraInfo(QCirroCameramanager& window, const QDir& output)
     QTest::qWait(2500);
     ok = save(dialog, output, QStringLiteral("camerainfo-fpn-running")) && ok;
     dialog.findChild<QPushButton*>(QStringLiteral("cancelFpn"))->click();
+    return ok;
+}
+
+// The COM port of the first USB camera installed and tested, the broadcast port on; then a
+// number that another camera claims.
+bool shootComDialog(QCirroCameramanager& window, const QDir& output)
+{
+    window.cameraList()->selectDevice(0);
+    ComDialog dialog(*window.cameraList()->selectedCamera(), window.cameraList()->model()->cameraList(), &window);
+    dialog.show();
+    if (!QTest::qWaitForWindowExposed(&dialog))
+        return false;
+    dialog.findChild<QSpinBox*>(QStringLiteral("portNumber"))->setValue(101);
+    dialog.findChild<QPushButton*>(QStringLiteral("install"))->click();
+    dialog.findChild<QCheckBox*>(QStringLiteral("broadcast"))->click();
+    bool tested = false;
+    QObject::connect(dialog.portTest(), &ComPortTest::finished, [&tested] { tested = true; });
+    dialog.findChild<QPushButton*>(QStringLiteral("test"))->click();
+    bool ok = QTest::qWaitFor([&tested] { return tested; }, 5000) && save(dialog, output, QStringLiteral("comdialog"));
+    // The number that the other COM port camera keeps too.
+    dialog.findChild<QSpinBox*>(QStringLiteral("portNumber"))->setValue(100);
+    ok = save(dialog, output, QStringLiteral("comdialog-number-claimed")) && ok;
+    dialog.findChild<QCheckBox*>(QStringLiteral("broadcast"))->click();
+    dialog.findChild<QPushButton*>(QStringLiteral("remove"))->click();
     return ok;
 }
 
@@ -484,6 +510,7 @@ int main(int argc, char* argv[])
     ok = shootFirmwareUpload(window, output) && ok;
     pvsim_SetTimeScale(1.0);
     ok = shootCameraInfo(window, output) && ok;
+    ok = shootComDialog(window, output) && ok;
     ok = shootAdditionalCameraInfo(window, output, 0, QStringLiteral("additionalcamerainfo-usb")) && ok;
     ok = shootAdditionalCameraInfo(window, output, 1005, QStringLiteral("additionalcamerainfo-gige")) && ok;
     ok = shootSupportFile(window, output) && ok;

@@ -29,6 +29,8 @@
 #include "network/ethcamerasettings.h"
 #include "network/ipv4.h"
 #include "common/widgets/elevationprompt.h"
+#include "comport/comportaccess.h"
+#include "comport/widgets/comdialog.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/ethdaemonconfig.h"
 #include "network/widgets/ipchangefollowup.h"
@@ -159,6 +161,7 @@ void QCirroCameramanager::buildLayout()
     m_cameraList = new CameraList(m_cameraListGroup, this);
     CameraList::HostAbilities abilities;
     abilities.elevated = Elevation::isElevated();
+    abilities.comPortSupportInstalled = ComPortAccess::supportInstalled();
     m_cameraList->setHostAbilities(abilities);
     m_cameraList->setCommandHandlers(m_commands);
     listLayout->addWidget(m_cameraList->view());
@@ -225,6 +228,8 @@ void QCirroCameramanager::registerCommands()
     m_commands->setHandler(Command::UploadFirmware, [this] { onUploadFirmware(); });
     m_commands->handleRequest(Command::AddReadOnlyDevice, m_cameraList, &CameraList::openMulticastSettings, this,
                               &QCirroCameramanager::onMulticastDialog);
+    m_commands->handleRequest(Command::ComPortConfiguration, m_cameraList, &CameraList::openComportDlg, this,
+                              &QCirroCameramanager::onOpenComportDlg);
     m_commands->setHandler(Command::CameraInformation, [this] { OnCameraInfoDlg(); });
     m_commands->handleRequest(Command::CameraInformation, m_cameraList, &CameraList::openCameraInfo, this,
                               &QCirroCameramanager::openCameraInfoDialog);
@@ -641,6 +646,14 @@ void QCirroCameramanager::closeUploadProgress()
 void QCirroCameramanager::onMulticastDialog(const Camera& camera)
 {
     (new MulticastDialog(camera, this))->exec(); // deletes itself when it closes
+    updateDetails(false);
+}
+
+void QCirroCameramanager::onOpenComportDlg(const Camera& camera)
+{
+    ComDialog dialog(camera, m_cameraList->model()->cameraList(), this);
+    dialog.exec();
+    m_cameraList->refreshSelectedCamera(); // the saved port number shows in the details
     updateDetails(false);
 }
 

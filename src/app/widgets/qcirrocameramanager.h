@@ -85,6 +85,7 @@ public slots:
     void onUploadFirmware();
     void onFirmwareUploadFinished(int index);
     void onMulticastDialog(const Camera& camera);
+    void onOpenComportDlg(const Camera& camera);
     void onWriteSupportFile();
     void onReadSupportFile();
     void OnCameraListRefresh();

@@ -2,6 +2,7 @@
 #include "camera/cameralistmodel.h"
 #include "camera/widgets/cameralist.h"
 #include "camera/widgets/cameratableview.h"
+#include "common/elevation.h"
 #include "dialogs/widgets/multicastdialog.h"
 #include "network/widgets/ethconfig.h"
 #include "network/widgets/qipedit.h"
@@ -107,6 +108,9 @@ private slots:
     void automaticConfigurationFailureIsReported();
     void writingASupportFileRestoresTheRefresh_data();
     void writingASupportFileRestoresTheRefresh();
+    void comPortEntryFollowsTheDriversAnswer_data();
+    void comPortEntryFollowsTheDriversAnswer();
+    void comPortDialogIsFollowedByTheDetails();
 
 private:
     std::unique_ptr<QCirroCameramanager> makeWindow(const QString& translations = shippedTranslations,
@@ -821,6 +825,64 @@ void TestMainWindow::writingASupportFileRestoresTheRefresh()
     QCOMPARE(read.tree.number(L"USB", L"Number of cameras", -1), 5LL);
     QVERIFY(read.tree.number(L"ETH", L"Number of cameras", -1) > 0);
     QVERIFY(read.tree.hasSection(L"Installed drivers"));
+}
+
+void TestMainWindow::comPortEntryFollowsTheDriversAnswer_data()
+{
+    QTest::addColumn<QString>("scenario");
+    QTest::addColumn<bool>("unknownQuestion");
+    QTest::addColumn<quint32>("deviceId");
+    QTest::addColumn<bool>("offered");
+    QTest::newRow("COM port camera") << QString() << false << 0u << true;
+    QTest::newRow("camera without serial interface") << QString() << false << 1u << false;
+    QTest::newRow("driver without COM port support")
+        << R"({"driver": {"comPorts": false}, "cameras": [{"kind": "usb", "typeCode": 98}]})" << false << 0u << false;
+    QTest::newRow("library that does not know the question") << QString() << true << 0u << false;
+}
+
+void TestMainWindow::comPortEntryFollowsTheDriversAnswer()
+{
+    QFETCH(QString, scenario);
+    QFETCH(bool, unknownQuestion);
+    QFETCH(quint32, deviceId);
+    QFETCH(bool, offered);
+    if (!scenario.isEmpty())
+        QCOMPARE(pvsim_LoadScenarioText(scenario.toUtf8().constData()), PV_OK);
+    if (unknownQuestion)
+        pvsim_FailOperation("pv_Configuration", PV_ERR_UNKNOWN_COMMAND, 1);
+    const auto window = makeWindow();
+    pvsim_ClearFailures();
+    select(*window, deviceId);
+    const std::unique_ptr<QMenu> menu = window->cameraList()->createContextMenu();
+    QAction* entry = nullptr;
+    for (QAction* action : menu->actions()) {
+        if (action->text() == "COM port configuration")
+            entry = action;
+    }
+    QCOMPARE(entry != nullptr, offered);
+    if (entry) {
+        QCOMPARE(entry->isEnabled(), Elevation::isElevated());
+        QCOMPARE(entry->toolTip() == "Restart with elevated privileges!", !Elevation::isElevated());
+    }
+}
+
+void TestMainWindow::comPortDialogIsFollowedByTheDetails()
+{
+    const auto window = makeWindow();
+    select(*window, 0);
+    bool ran = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog && dialog->objectName() == "comDialog");
+        ran = true;
+        dialog->findChild<QSpinBox*>("portNumber")->setValue(190);
+        dialog->findChild<QPushButton*>("saveInCamera")->click();
+        dialog->reject();
+    });
+    // The slot runs whether or not the menu entry may be used on this host.
+    window->onOpenComportDlg(*window->cameraList()->selectedCamera());
+    QVERIFY(ran);
+    QCOMPARE(window->cameraList()->selectedCamera()->deviceInformation().comPortOffset, qint16(90));
 }
 
 QTEST_MAIN(TestMainWindow)

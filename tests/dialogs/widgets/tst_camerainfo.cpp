@@ -3,6 +3,7 @@
 
 #include "fleetcamera.h"
 #include "messageboxanswerer.h"
+#include "namedchild.h"
 #include "simdriverfixture.h"
 
 #include <QComboBox>
@@ -42,14 +43,6 @@ private slots:
 
 private:
     std::unique_ptr<CameraInfo> prepared(quint32 deviceId);
-    template <typename T>
-    static T* child(QWidget& dialog, const char* name)
-    {
-        T* widget = dialog.findChild<T*>(QLatin1String(name));
-        if (!widget)
-            qWarning() << "no" << name;
-        return widget;
-    }
 
     QTemporaryDir m_dir;
 };
