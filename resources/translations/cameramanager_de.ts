@@ -2,6 +2,107 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>AboutInformation</name>
+    <message>
+        <location filename="../../src/sysinfo/aboutinformation.cpp" line="+15"/>
+        <source>%1 (built with %2)</source>
+        <translation>%1 (erstellt mit %2)</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Licences</source>
+        <translation>Lizenzen</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Product</source>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera API version</source>
+        <translation>Version der Kamera-API</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera API library</source>
+        <translation>Kamera-API-Bibliothek</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Qt version</source>
+        <translation>Qt-Version</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Build</source>
+        <translation>Build</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>sanitizers: %1</source>
+        <translation>Sanitizer: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>assertions on</source>
+        <translation>Assertions aktiviert</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Qt %1</source>
+        <translation>Qt %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>GNU Lesser General Public License, version 3</source>
+        <translation>GNU Lesser General Public License, Version 3</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This program uses the Qt libraries (Core, Gui, Widgets, Network, D-Bus, Concurrent) under the terms of the GNU Lesser General Public License version 3. Qt is a trademark of The Qt Company Ltd. The libraries are linked dynamically; they can be replaced by modified versions. Their source code is available from the distribution&apos;s source packages.</source>
+        <translation>Dieses Programm verwendet die Qt-Bibliotheken (Core, Gui, Widgets, Network, D-Bus, Concurrent) gemäß den Bedingungen der GNU Lesser General Public License Version 3. Qt ist eine Marke der The Qt Company Ltd. Die Bibliotheken sind dynamisch gelinkt; sie können durch modifizierte Versionen ersetzt werden. Ihr Quellcode ist in den Quellpaketen der Distribution erhältlich.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Boost %1</source>
+        <translation>Boost %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Boost Software License, version 1.0</source>
+        <translation>Boost Software License, Version 1.0</translation>
+    </message>
+</context>
+<context>
+    <name>AboutPage</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/aboutpage.cpp" line="+24"/>
+        <source>Licences of the libraries this program uses:</source>
+        <translation>Lizenzen der von diesem Programm verwendeten Bibliotheken:</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
     <name>AdapterDiagnosis</name>
     <message>
         <location filename="../../src/network/adapterdiagnosis.cpp" line="+18"/>
@@ -864,7 +965,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
 <context>
     <name>CameraInfo</name>
     <message>
-        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+36"/>
+        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+30"/>
         <source>Camera information</source>
         <translation>Kamerainformationen</translation>
     </message>
@@ -1122,7 +1223,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
 <context>
     <name>CameraList</name>
     <message>
-        <location filename="../../src/camera/widgets/cameralist.cpp" line="+122"/>
+        <location filename="../../src/camera/widgets/cameralist.cpp" line="+121"/>
         <source>&amp;Open this camera</source>
         <translation>Diese Kamera ö&amp;ffnen</translation>
     </message>
@@ -1210,7 +1311,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Ser.-Nr.</translation>
     </message>
     <message>
-        <location filename="../../src/camera/cameracelltexts.cpp" line="+21"/>
+        <location filename="../../src/camera/cameracelltexts.cpp" line="+24"/>
         <source>No</source>
         <translation>Nein</translation>
     </message>
@@ -1220,9 +1321,112 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>Ja</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+27"/>
+        <source>Yes (BB): the driver keeps the camera in boot boost mode; it can be opened.</source>
+        <translation>Ja (BB): Der Treiber hält die Kamera im Boot-Boost-Modus; sie kann geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>USB: USB camera</source>
+        <translation>USB: USB-Kamera</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>ETH: GigE camera</source>
+        <translation>ETH: GigE-Kamera</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PMC: read-only multicast device, a passive receiver of a GigE camera&apos;s stream</source>
+        <translation>PMC: schreibgeschütztes Multicast-Gerät, ein passiver Empfänger des Datenstroms einer GigE-Kamera</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>U3V: USB3 Vision camera of the Parvel Summit SDK</source>
+        <translation>U3V: USB3-Vision-Kamera des Parvel Summit SDK</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>GEV: GigE Vision camera of the Parvel Summit SDK</source>
+        <translation>GEV: GigE-Vision-Kamera des Parvel Summit SDK</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>UNK: a device of a kind that this version does not know</source>
+        <translation>UNK: ein Gerät eines Typs, den diese Version nicht kennt</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Free: whether no other host holds the camera.</source>
+        <translation>Frei: ob kein anderer Host die Kamera belegt.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Avail.: whether the camera can be opened now.</source>
+        <translation>Verf.: ob die Kamera jetzt geöffnet werden kann.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Type: the kind of device.</source>
+        <translation>Typ: die Art des Geräts.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cam. ID: the camera ID, a number from 1 to 254 that is stored in the camera.</source>
+        <translation>Kam.-ID: die Kamera-ID, eine Zahl von 1 bis 254, die in der Kamera gespeichert ist.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Dev. ID: the device ID, which the driver gives the device for this connection.</source>
+        <translation>Ger.-ID: die Geräte-ID, die der Treiber dem Gerät für diese Verbindung zuweist.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Model: the model name.</source>
+        <translation>Modell: der Modellname.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ser. No.: the serial number.</source>
+        <translation>Ser.-Nr.: die Seriennummer.</translation>
+    </message>
+    <message>
+        <location line="+50"/>
         <source>Yes (BB)</source>
         <translation>Ja (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraListPlaceholder</name>
+    <message>
+        <location filename="../../src/app/cameralistplaceholder.cpp" line="+7"/>
+        <source>No cameras found.</source>
+        <translation>Keine Kameras gefunden.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The USB driver service (cirro_usb) is not running, so no USB camera can be found. Start it as administrator: systemctl start cirro_usb</source>
+        <translation>Der USB-Treiberdienst (cirro_usb) läuft nicht, daher kann keine USB-Kamera gefunden werden. Starten Sie ihn als Administrator: systemctl start cirro_usb</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The USB driver service (cirro_usb) is not installed, so no USB camera can be found.</source>
+        <translation>Der USB-Treiberdienst (cirro_usb) ist nicht installiert, daher kann keine USB-Kamera gefunden werden.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The ETH driver service (cirro_eth) is not running, so no GigE camera can be found. Start it in &quot;ETH network service&quot;.</source>
+        <translation>Der ETH-Treiberdienst (cirro_eth) läuft nicht, daher kann keine GigE-Kamera gefunden werden. Starten Sie ihn unter „ETH-Netzwerkdienst“.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The ETH driver service (cirro_eth) is not installed, so no GigE camera can be found.</source>
+        <translation>Der ETH-Treiberdienst (cirro_eth) ist nicht installiert, daher kann keine GigE-Kamera gefunden werden.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The states of the driver services can&apos;t be read.</source>
+        <translation>Die Zustände der Treiberdienste können nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -1236,6 +1440,284 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <location line="+10"/>
         <source>Failed</source>
         <translation>Fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>ComDialog</name>
+    <message>
+        <location filename="../../src/comport/widgets/comdialog.cpp" line="+48"/>
+        <source>COM port configuration</source>
+        <translation>COM-Port-Konfiguration</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 (device %2)</source>
+        <translation>%1 (Gerät %2)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Model:</source>
+        <translation>Modell:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Serial number:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera ID:</source>
+        <translation>Kamera-ID:</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Virtual COM port</source>
+        <translation>Virtueller COM-Port</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Install</source>
+        <translation>Installieren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save in camera</source>
+        <translation>In der Kamera speichern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Installed port:</source>
+        <translation>Installierter Port:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Saved in the camera:</source>
+        <translation>In der Kamera gespeichert:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Port number:</source>
+        <translation>Portnummer:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Test answer:</source>
+        <translation>Testantwort:</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Broadcast port</source>
+        <translation>Broadcast-Port</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Broadcast port: one port that addresses every camera</source>
+        <translation>Broadcast-Port: ein Port, der alle Kameras anspricht</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <location line="+19"/>
+        <source>COM port %1: %2</source>
+        <translation>COM-Port %1: %2</translation>
+    </message>
+    <message>
+        <location line="-18"/>
+        <source>not installed</source>
+        <translation>nicht installiert</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>COM port %1</source>
+        <translation>COM-Port %1</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>COM port %1 is installed: %2</source>
+        <translation>COM-Port %1 ist installiert: %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>COM port %1 is saved in the camera, which takes it on every computer.</source>
+        <translation>COM-Port %1 ist in der Kamera gespeichert, die ihn an jedem Computer übernimmt.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The COM port is removed.</source>
+        <translation>Der COM-Port wurde entfernt.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Testing COM port %1 ...</source>
+        <translation>COM-Port %1 wird getestet ...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>COM port %1 answered.</source>
+        <translation>COM-Port %1 hat geantwortet.</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>The broadcast port is on: %1</source>
+        <translation>Der Broadcast-Port ist eingeschaltet: %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The broadcast port is off.</source>
+        <translation>Der Broadcast-Port ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Errorcode: %1</source>
+        <translation>Fehlercode: %1</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>gone with the camera</source>
+        <translation>mit der Kamera entfernt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera %1 is no longer connected. Its COM port is gone with it; close this dialog.</source>
+        <translation>Kamera %1 ist nicht mehr verbunden. Ihr COM-Port ist damit ebenfalls entfernt; schließen Sie diesen Dialog.</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortAccess</name>
+    <message>
+        <location filename="../../src/comport/comportaccess.cpp" line="+42"/>
+        <source>COM port %1 is not possible: a camera&apos;s port number is from %2 to %3.</source>
+        <translation>COM-Port %1 ist nicht möglich: Die Portnummer einer Kamera liegt zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The COM port of camera %1 could not be read.</source>
+        <translation>Der COM-Port von Kamera %1 konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>COM port %1 could not be installed.</source>
+        <translation>COM-Port %1 konnte nicht installiert werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The COM port of camera %1 could not be removed.</source>
+        <translation>Der COM-Port von Kamera %1 konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The COM port saved in camera %1 could not be read.</source>
+        <translation>Der in Kamera %1 gespeicherte COM-Port konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>COM port %1 could not be saved in the camera.</source>
+        <translation>COM-Port %1 konnte nicht in der Kamera gespeichert werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1
+The value could not be read back.</source>
+        <translation>%1
+Der Wert konnte nicht zurückgelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The broadcast port could not be read.</source>
+        <translation>Der Broadcast-Port konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The broadcast port could not be switched on.</source>
+        <translation>Der Broadcast-Port konnte nicht eingeschaltet werden.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The broadcast port could not be switched off.</source>
+        <translation>Der Broadcast-Port konnte nicht ausgeschaltet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortAnswer</name>
+    <message>
+        <location filename="../../src/comport/comportanswer.cpp" line="+46"/>
+        <source>No camera answered.</source>
+        <translation>Keine Kamera hat geantwortet.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1, serial number %2, camera ID %3</source>
+        <translation>%1, Seriennummer %2, Kamera-ID %3</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortNumbers</name>
+    <message>
+        <location filename="../../src/comport/comportnumbers.cpp" line="+38"/>
+        <source>COM port %1 is installed for camera %2 already. Choose another number, or remove that camera&apos;s port first.</source>
+        <translation>COM-Port %1 ist bereits für Kamera %2 installiert. Wählen Sie eine andere Nummer, oder entfernen Sie zuerst den Port dieser Kamera.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Camera %1 has COM port %2 installed.</source>
+        <translation>Für Kamera %1 ist COM-Port %2 installiert.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera %1 has COM port %2 saved too; the two would clash on another computer.</source>
+        <translation>In Kamera %1 ist ebenfalls COM-Port %2 gespeichert; an einem anderen Computer würden die beiden kollidieren.</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortTest</name>
+    <message>
+        <location filename="../../src/comport/comporttest.cpp" line="+47"/>
+        <source>%1 is in use by another program, or this user may not open it.</source>
+        <translation>%1 wird von einem anderen Programm verwendet, oder dieser Benutzer darf ihn nicht öffnen.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 does not exist (any more).</source>
+        <translation>%1 existiert nicht (mehr).</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 could not be opened: %2</source>
+        <translation>%1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The camera behind %1 answered with an error: %2</source>
+        <translation>Die Kamera an %1 hat mit einem Fehler geantwortet: %2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 answered something that is not a camera&apos;s identification: &quot;%2&quot;</source>
+        <translation>%1 hat etwas geantwortet, das keine Kamerakennung ist: „%2“</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 went away during the test: %2</source>
+        <translation>%1 ist während des Tests verschwunden: %2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 did not answer within %2 ms.</source>
+        <translation>%1 hat nicht innerhalb von %2 ms geantwortet.</translation>
     </message>
 </context>
 <context>
@@ -1367,7 +1849,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
         <translation>falsch</translation>
     </message>
     <message>
-        <location filename="../../src/details/deviceinfomodel.cpp" line="+73"/>
+        <location filename="../../src/details/deviceinfomodel.cpp" line="+77"/>
         <source>Parameter</source>
         <translation>Parameter</translation>
     </message>
@@ -1938,7 +2420,7 @@ Der Wert konnte nicht zurückgelesen werden.</translation>
 <context>
     <name>DeviceInfoView</name>
     <message>
-        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
+        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+97"/>
         <source>Copy item values</source>
         <translation>Werte der Einträge kopieren</translation>
     </message>
@@ -2631,6 +3113,224 @@ Dies kann bis zu %1 Sekunden dauern.</translation>
     </message>
 </context>
 <context>
+    <name>GeneralInfoDlg</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/generalinfodlg.cpp" line="+28"/>
+        <source>General information</source>
+        <translation>Allgemeine Informationen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Drivers</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB controllers</source>
+        <translation>USB-Controller</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network adapters</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Copy to clipboard</source>
+        <translation>In die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Reading …</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Copied to the clipboard.</source>
+        <translation>In die Zwischenablage kopiert.</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralInformation</name>
+    <message>
+        <location filename="../../src/sysinfo/generalinformation.cpp" line="+13"/>
+        <source>Camera API library</source>
+        <translation>Kamera-API-Bibliothek</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Kernel module</source>
+        <translation>Kernelmodul</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Driver service</source>
+        <translation>Treiberdienst</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File version</source>
+        <translation>Dateiversion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Source version</source>
+        <translation>Quellversion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Port %1</source>
+        <translation>Port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Instance</source>
+        <translation>Instanz</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+26"/>
+        <source>Driver</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+9"/>
+        <source>%n port(s)</source>
+        <translation>
+            <numerusform>%n Port</numerusform>
+            <numerusform>%n Ports</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PCI identity</source>
+        <translation>PCI-Kennung</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>no IPv4 address</source>
+        <translation>keine IPv4-Adresse</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>static</source>
+        <translation>statisch</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>MAC address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver version</source>
+        <translation>Treiberversion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver date</source>
+        <translation>Treiberdatum</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checks for GigE cameras</source>
+        <translation>Prüfungen für GigE-Kameras</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <location line="+16"/>
+        <source>USB controllers</source>
+        <translation>USB-Controller</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <location line="+1"/>
+        <source>still being read</source>
+        <translation>wird noch gelesen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+27"/>
+        <source>Network adapters</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="-20"/>
+        <source>Drivers</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No USB host controller was found.</source>
+        <translation>Es wurde kein USB-Host-Controller gefunden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No network adapter was found.</source>
+        <translation>Es wurde kein Netzwerkadapter gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>HostArpProber</name>
     <message>
         <location filename="../../src/network/hostarpprober_linux.cpp" line="+74"/>
@@ -2723,6 +3423,19 @@ Dies kann bis zu %1 Sekunden dauern.</translation>
         <location line="+1"/>
         <source> and </source>
         <translation> und </translation>
+    </message>
+</context>
+<context>
+    <name>InfoTreeView</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/infotreeview.cpp" line="+9"/>
+        <source>Item</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -3036,7 +3749,7 @@ Er hat zu viele Werte oder zu lange Namen.</translation>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+261"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+276"/>
         <source>Camera list</source>
         <translation>Kameraliste</translation>
     </message>
@@ -3061,7 +3774,7 @@ Er hat zu viele Werte oder zu lange Namen.</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location line="+160"/>
+        <location line="+213"/>
         <source>Open eth configuration...</source>
         <translation>ETH-Konfiguration wird geöffnet...</translation>
     </message>
@@ -3087,7 +3800,17 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Automatische Konfiguration</translation>
     </message>
     <message>
-        <location line="-2"/>
+        <location line="-89"/>
+        <source>The camera viewer was not found. Install %1 in a folder of the PATH, or set the viewer&apos;s path as &quot;%2&quot; in %3.</source>
+        <translation>Der Kamera-Viewer wurde nicht gefunden. Installieren Sie %1 in einem Ordner des PATH, oder tragen Sie den Pfad des Viewers als „%2“ in %3 ein.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Identifying device %1: it blinks in two seconds ...</source>
+        <translation>Gerät %1 wird identifiziert: Es blinkt in zwei Sekunden ...</translation>
+    </message>
+    <message>
+        <location line="+73"/>
         <source>Automatic configuration can&apos;t be applied!</source>
         <translation>Die automatische Konfiguration kann nicht angewendet werden!</translation>
     </message>
@@ -3128,7 +3851,7 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Gerät %1: Firmware erfolgreich hochgeladen. Auf der Kamera läuft jetzt die Starter-Firmware %2.</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+42"/>
         <source>Save support file</source>
         <translation>Supportdatei speichern</translation>
     </message>
@@ -3143,9 +3866,22 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Supportdateien (*.bin)</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+10"/>
+        <location line="+10"/>
         <source>Delete read-only device</source>
         <translation>Schreibgeschütztes Gerät löschen</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Delete the read-only device %1 (camera ID %2)?
+The driver forgets it; it comes back only when it is added again with &quot;Add Readonly Device&quot;.</source>
+        <translation>Schreibgeschütztes Gerät %1 (Kamera-ID %2) löschen?
+Der Treiber vergisst es; es erscheint erst wieder, wenn es erneut mit „Schreibgeschütztes Gerät hinzufügen“ hinzugefügt wird.</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>The scenario file was not loaded, so the simulated driver shows its built-in cameras: %1</source>
+        <translation>Die Szenariodatei wurde nicht geladen, daher zeigt der simulierte Treiber seine eingebauten Kameras: %1</translation>
     </message>
 </context>
 <context>
@@ -3816,14 +4552,14 @@ Dieser Vorgang kann bis zu 10 Sekunden dauern.</translation>
         <translation>Das Firmware-Image ist nicht verfügbar oder beschädigt. Bitte führen Sie die Installation von %1 erneut aus.</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>The starter firmware of the camera is incompatible to the driver.
 An automatic upload will be initiated next time you open the camera. This upload will take several seconds. Do not switch off the power supply and do not unplug the camera! It is strongly recommended to upload the firmware over the button &apos;Starter Firmware Upload&apos;. The requested starter firmware version is %1.%2.%3</source>
         <translation>Die Starter-Firmware der Kamera ist nicht mit dem Treiber kompatibel.
 Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorgang dauert einige Sekunden. Schalten Sie währenddessen die Stromversorgung nicht aus und trennen Sie die Kamera nicht! Es wird dringend empfohlen, die Firmware über die Schaltfläche „Starter-Firmware hochladen“ hochzuladen. Die benötigte Version der Starter-Firmware ist %1.%2.%3</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+8"/>
         <source>Status of device %1: The camera is currently running in the boot boost mode. It is configured correctly and can be opened.</source>
         <translation>Status von Gerät %1: Die Kamera läuft derzeit im Boot-Boost-Modus. Sie ist korrekt konfiguriert und kann geöffnet werden.</translation>
     </message>
@@ -3863,7 +4599,12 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
         <translation>Keine Kameraliste verfügbar</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+9"/>
+        <source>The device is of a kind that this version of the Camera Manager does not know, so it can&apos;t be used here.</source>
+        <translation>Das Gerät ist von einem Typ, den diese Version des Camera Managers nicht kennt; es kann daher hier nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
         <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
         <translation>Achtung: Sie verwenden ein Kameramodell, das von der aktuellen Treiberversion nicht mehr unterstützt wird.</translation>
     </message>
@@ -4595,6 +5336,197 @@ Beim nächsten Öffnen der Kamera wird sie automatisch hochgeladen. Dieser Vorga
     </message>
 </context>
 <context>
+    <name>UpdateCheck</name>
+    <message>
+        <location filename="../../src/sysinfo/updatecheck.cpp" line="+42"/>
+        <source>The update address &quot;%1&quot; is not an http or https address.</source>
+        <translation>Die Update-Adresse „%1“ ist keine http- oder https-Adresse.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+51"/>
+        <source>The update server did not answer within %n second(s).</source>
+        <translation>
+            <numerusform>Der Update-Server hat nicht innerhalb von %n Sekunde geantwortet.</numerusform>
+            <numerusform>Der Update-Server hat nicht innerhalb von %n Sekunden geantwortet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The update document is larger than %1 kB and was not read.</source>
+        <translation>Das Update-Dokument ist größer als %1 kB und wurde nicht gelesen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The check for updates was cancelled.</source>
+        <translation>Die Suche nach Updates wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>The update server answered %1 %2.</source>
+        <translation>Der Update-Server hat mit %1 %2 geantwortet.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+5"/>
+        <source>The update address redirects more than %n time(s).</source>
+        <translation>
+            <numerusform>Die Update-Adresse leitet mehr als %n Mal weiter.</numerusform>
+            <numerusform>Die Update-Adresse leitet mehr als %n Mal weiter.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The update server redirects from https to an unencrypted address; the redirect was not followed.</source>
+        <translation>Der Update-Server leitet von https auf eine unverschlüsselte Adresse weiter; der Weiterleitung wurde nicht gefolgt.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update server could not be reached (%1). Check the network connection and the update address.</source>
+        <translation>Der Update-Server ist nicht erreichbar (%1). Prüfen Sie die Netzwerkverbindung und die Update-Adresse.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document could not be fetched: %1</source>
+        <translation>Das Update-Dokument konnte nicht abgerufen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Version %1 is available; version %2 is installed.</source>
+        <translation>Version %1 ist verfügbar; installiert ist Version %2.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Version %1 is the latest version.</source>
+        <translation>Version %1 ist die neueste Version.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDocument</name>
+    <message>
+        <location filename="../../src/sysinfo/updatedocument.cpp" line="+15"/>
+        <source>The update document&apos;s notes are not a list of texts by language.</source>
+        <translation>Die Hinweise im Update-Dokument sind keine Liste von Texten nach Sprache.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document&apos;s notes for &quot;%1&quot; are not a text.</source>
+        <translation>Die Hinweise im Update-Dokument für „%1“ sind kein Text.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The update document is not valid JSON: %1 (at byte %2).</source>
+        <translation>Das Update-Dokument ist kein gültiges JSON: %1 (bei Byte %2).</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document is not a JSON object.</source>
+        <translation>Das Update-Dokument ist kein JSON-Objekt.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document has no format number.</source>
+        <translation>Das Update-Dokument hat keine Formatnummer.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document has the format %1; this version reads format %2.</source>
+        <translation>Das Update-Dokument hat das Format %1; diese Version liest Format %2.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The update document names no latest version.</source>
+        <translation>Das Update-Dokument nennt keine neueste Version.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The update document&apos;s latest version &quot;%1&quot; is not a version number such as 4.98.0.0.</source>
+        <translation>Die neueste Version „%1“ im Update-Dokument ist keine Versionsnummer wie 4.98.0.0.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>(not a text)</source>
+        <translation>(kein Text)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document&apos;s download page &quot;%1&quot; is not an http or https address.</source>
+        <translation>Die Download-Seite „%1“ im Update-Dokument ist keine http- oder https-Adresse.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/updatespage.cpp" line="+17"/>
+        <source>https://… address of the update document</source>
+        <translation>https://… Adresse des Update-Dokuments</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+60"/>
+        <source>Check for updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <location line="-58"/>
+        <source>The program asks for updates only when you press &quot;Check for updates&quot;.</source>
+        <translation>Das Programm sucht nur dann nach Updates, wenn Sie auf „Nach Updates suchen“ klicken.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Installed version:</source>
+        <translation>Installierte Version:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update address:</source>
+        <translation>Update-Adresse:</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No update address is set. Enter the address of the update document that your supplier gave you.</source>
+        <translation>Es ist keine Update-Adresse festgelegt. Geben Sie die Adresse des Update-Dokuments ein, die Ihnen Ihr Lieferant mitgeteilt hat.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Asking %1 …</source>
+        <translation>%1 wird abgefragt …</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Open the download page</source>
+        <translation>Download-Seite öffnen</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installed version</source>
+        <translation>Installierte Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update address</source>
+        <translation>Update-Adresse</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Last check</source>
+        <translation>Letzte Prüfung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Download page</source>
+        <translation>Download-Seite</translation>
+    </message>
+</context>
+<context>
     <name>UsbTopology</name>
     <message>
         <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
@@ -4677,11 +5609,16 @@ Verwenden Sie eine neuere lib%4!</translation>
         <translation>%1 Camera Manager</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+42"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+46"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>Der Kameratreiber hat die Geräteereignisse der Kameraliste abgelehnt.
 Rückgabecode: %1</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>%1: there is no display to show the window on (DISPLAY is not set).</source>
+        <translation>%1: Es ist keine Anzeige vorhanden, auf der das Fenster angezeigt werden kann (DISPLAY ist nicht gesetzt).</translation>
     </message>
 </context>
 </TS>

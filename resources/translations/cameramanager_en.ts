@@ -21,4 +21,31 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>GeneralInformation</name>
+    <message numerus="yes">
+        <source>%n port(s)</source>
+        <translation>
+            <numerusform>%n port</numerusform>
+            <numerusform>%n ports</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message numerus="yes">
+        <source>The update server did not answer within %n second(s).</source>
+        <translation>
+            <numerusform>The update server did not answer within %n second.</numerusform>
+            <numerusform>The update server did not answer within %n seconds.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The update address redirects more than %n time(s).</source>
+        <translation>
+            <numerusform>The update address redirects more than %n time.</numerusform>
+            <numerusform>The update address redirects more than %n times.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -2,6 +2,107 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AboutInformation</name>
+    <message>
+        <location filename="../../src/sysinfo/aboutinformation.cpp" line="+15"/>
+        <source>%1 (built with %2)</source>
+        <translation>%1（使用 %2 构建）</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Licences</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera API version</source>
+        <translation>相机 API 版本</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera API library</source>
+        <translation>相机 API 库</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Qt version</source>
+        <translation>Qt 版本</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Build</source>
+        <translation>构建</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>sanitizers: %1</source>
+        <translation>Sanitizer：%1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>assertions on</source>
+        <translation>已启用断言</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Qt %1</source>
+        <translation>Qt %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>GNU Lesser General Public License, version 3</source>
+        <translation>GNU 宽通用公共许可证（LGPL）第 3 版</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This program uses the Qt libraries (Core, Gui, Widgets, Network, D-Bus, Concurrent) under the terms of the GNU Lesser General Public License version 3. Qt is a trademark of The Qt Company Ltd. The libraries are linked dynamically; they can be replaced by modified versions. Their source code is available from the distribution&apos;s source packages.</source>
+        <translation>本程序依据 GNU 宽通用公共许可证（LGPL）第 3 版的条款使用 Qt 库（Core、Gui、Widgets、Network、D-Bus、Concurrent）。Qt 是 The Qt Company Ltd. 的商标。这些库以动态方式链接，可替换为修改后的版本。其源代码可从发行版的源代码包中获取。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Boost %1</source>
+        <translation>Boost %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Boost Software License, version 1.0</source>
+        <translation>Boost 软件许可证 1.0 版</translation>
+    </message>
+</context>
+<context>
+    <name>AboutPage</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/aboutpage.cpp" line="+24"/>
+        <source>Licences of the libraries this program uses:</source>
+        <translation>本程序所用库的许可证：</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+</context>
+<context>
     <name>AdapterDiagnosis</name>
     <message>
         <location filename="../../src/network/adapterdiagnosis.cpp" line="+18"/>
@@ -864,7 +965,7 @@ The value could not be read back.</source>
 <context>
     <name>CameraInfo</name>
     <message>
-        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+36"/>
+        <location filename="../../src/dialogs/widgets/camerainfo.cpp" line="+30"/>
         <source>Camera information</source>
         <translation>相机信息</translation>
     </message>
@@ -1122,7 +1223,7 @@ The value could not be read back.</source>
 <context>
     <name>CameraList</name>
     <message>
-        <location filename="../../src/camera/widgets/cameralist.cpp" line="+122"/>
+        <location filename="../../src/camera/widgets/cameralist.cpp" line="+121"/>
         <source>&amp;Open this camera</source>
         <translation>打开此相机(&amp;O)</translation>
     </message>
@@ -1210,7 +1311,7 @@ The value could not be read back.</source>
         <translation>序列号</translation>
     </message>
     <message>
-        <location filename="../../src/camera/cameracelltexts.cpp" line="+21"/>
+        <location filename="../../src/camera/cameracelltexts.cpp" line="+24"/>
         <source>No</source>
         <translation>否</translation>
     </message>
@@ -1220,9 +1321,112 @@ The value could not be read back.</source>
         <translation>是</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+27"/>
+        <source>Yes (BB): the driver keeps the camera in boot boost mode; it can be opened.</source>
+        <translation>是 (BB)：驱动程序使相机保持在 Boot Boost 模式下；可以打开该相机。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>USB: USB camera</source>
+        <translation>USB：USB 相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>ETH: GigE camera</source>
+        <translation>ETH：GigE 相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PMC: read-only multicast device, a passive receiver of a GigE camera&apos;s stream</source>
+        <translation>PMC：只读组播设备，被动接收 GigE 相机的数据流</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>U3V: USB3 Vision camera of the Parvel Summit SDK</source>
+        <translation>U3V：Parvel Summit SDK 的 USB3 Vision 相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>GEV: GigE Vision camera of the Parvel Summit SDK</source>
+        <translation>GEV：Parvel Summit SDK 的 GigE Vision 相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>UNK: a device of a kind that this version does not know</source>
+        <translation>UNK：此版本无法识别的设备类型</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Free: whether no other host holds the camera.</source>
+        <translation>空闲：相机是否未被其他主机占用。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Avail.: whether the camera can be opened now.</source>
+        <translation>可用：相机当前是否可以打开。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Type: the kind of device.</source>
+        <translation>类型：设备的种类。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cam. ID: the camera ID, a number from 1 to 254 that is stored in the camera.</source>
+        <translation>相机 ID：存储在相机中的 1 到 254 之间的数字。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Dev. ID: the device ID, which the driver gives the device for this connection.</source>
+        <translation>设备 ID：驱动程序为本次连接分配给设备的 ID。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Model: the model name.</source>
+        <translation>型号：型号名称。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ser. No.: the serial number.</source>
+        <translation>序列号：设备的序列号。</translation>
+    </message>
+    <message>
+        <location line="+50"/>
         <source>Yes (BB)</source>
         <translation>是 (BB)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraListPlaceholder</name>
+    <message>
+        <location filename="../../src/app/cameralistplaceholder.cpp" line="+7"/>
+        <source>No cameras found.</source>
+        <translation>未找到相机。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The USB driver service (cirro_usb) is not running, so no USB camera can be found. Start it as administrator: systemctl start cirro_usb</source>
+        <translation>USB 驱动服务 (cirro_usb) 未运行，因此无法找到 USB 相机。请以管理员身份启动该服务：systemctl start cirro_usb</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The USB driver service (cirro_usb) is not installed, so no USB camera can be found.</source>
+        <translation>USB 驱动服务 (cirro_usb) 未安装，因此无法找到 USB 相机。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The ETH driver service (cirro_eth) is not running, so no GigE camera can be found. Start it in &quot;ETH network service&quot;.</source>
+        <translation>ETH 驱动服务 (cirro_eth) 未运行，因此无法找到 GigE 相机。请在“ETH 网络服务”中启动该服务。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The ETH driver service (cirro_eth) is not installed, so no GigE camera can be found.</source>
+        <translation>ETH 驱动服务 (cirro_eth) 未安装，因此无法找到 GigE 相机。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The states of the driver services can&apos;t be read.</source>
+        <translation>无法读取驱动服务的状态。</translation>
     </message>
 </context>
 <context>
@@ -1236,6 +1440,284 @@ The value could not be read back.</source>
         <location line="+10"/>
         <source>Failed</source>
         <translation>失败</translation>
+    </message>
+</context>
+<context>
+    <name>ComDialog</name>
+    <message>
+        <location filename="../../src/comport/widgets/comdialog.cpp" line="+48"/>
+        <source>COM port configuration</source>
+        <translation>COM 端口配置</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1 (device %2)</source>
+        <translation>%1（设备 %2）</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Model:</source>
+        <translation>型号：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Serial number:</source>
+        <translation>序列号：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera ID:</source>
+        <translation>相机 ID：</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Virtual COM port</source>
+        <translation>虚拟 COM 端口</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Install</source>
+        <translation>安装</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save in camera</source>
+        <translation>保存到相机</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Installed port:</source>
+        <translation>已安装的端口：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Saved in the camera:</source>
+        <translation>已保存在相机中：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Port number:</source>
+        <translation>端口号：</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Test answer:</source>
+        <translation>测试应答：</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Broadcast port</source>
+        <translation>广播端口</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Broadcast port: one port that addresses every camera</source>
+        <translation>广播端口：可同时寻址所有相机的端口</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <location line="+19"/>
+        <source>COM port %1: %2</source>
+        <translation>COM 端口 %1：%2</translation>
+    </message>
+    <message>
+        <location line="-18"/>
+        <source>not installed</source>
+        <translation>未安装</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>COM port %1</source>
+        <translation>COM 端口 %1</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>COM port %1 is installed: %2</source>
+        <translation>COM 端口 %1 已安装：%2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>COM port %1 is saved in the camera, which takes it on every computer.</source>
+        <translation>COM 端口 %1 已保存在相机中，相机在任何计算机上都将使用该端口。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The COM port is removed.</source>
+        <translation>COM 端口已移除。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Testing COM port %1 ...</source>
+        <translation>正在测试 COM 端口 %1 ...</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>COM port %1 answered.</source>
+        <translation>COM 端口 %1 已应答。</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>The broadcast port is on: %1</source>
+        <translation>广播端口已开启：%1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The broadcast port is off.</source>
+        <translation>广播端口已关闭。</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Errorcode: %1</source>
+        <translation>错误代码：%1</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>gone with the camera</source>
+        <translation>已随相机断开</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera %1 is no longer connected. Its COM port is gone with it; close this dialog.</source>
+        <translation>相机 %1 已断开连接，其 COM 端口也随之移除；请关闭此对话框。</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortAccess</name>
+    <message>
+        <location filename="../../src/comport/comportaccess.cpp" line="+42"/>
+        <source>COM port %1 is not possible: a camera&apos;s port number is from %2 to %3.</source>
+        <translation>无法使用 COM 端口 %1：相机的端口号范围为 %2 到 %3。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The COM port of camera %1 could not be read.</source>
+        <translation>无法读取相机 %1 的 COM 端口。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>COM port %1 could not be installed.</source>
+        <translation>无法安装 COM 端口 %1。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The COM port of camera %1 could not be removed.</source>
+        <translation>无法移除相机 %1 的 COM 端口。</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The COM port saved in camera %1 could not be read.</source>
+        <translation>无法读取相机 %1 中保存的 COM 端口。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>COM port %1 could not be saved in the camera.</source>
+        <translation>无法将 COM 端口 %1 保存到相机中。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1
+The value could not be read back.</source>
+        <translation>%1
+无法读回该值。</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>The broadcast port could not be read.</source>
+        <translation>无法读取广播端口。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The broadcast port could not be switched on.</source>
+        <translation>无法开启广播端口。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The broadcast port could not be switched off.</source>
+        <translation>无法关闭广播端口。</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortAnswer</name>
+    <message>
+        <location filename="../../src/comport/comportanswer.cpp" line="+46"/>
+        <source>No camera answered.</source>
+        <translation>没有相机应答。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1, serial number %2, camera ID %3</source>
+        <translation>%1，序列号 %2，相机 ID %3</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortNumbers</name>
+    <message>
+        <location filename="../../src/comport/comportnumbers.cpp" line="+38"/>
+        <source>COM port %1 is installed for camera %2 already. Choose another number, or remove that camera&apos;s port first.</source>
+        <translation>COM 端口 %1 已为相机 %2 安装。请选择其他端口号，或先移除该相机的端口。</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Camera %1 has COM port %2 installed.</source>
+        <translation>相机 %1 已安装 COM 端口 %2。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera %1 has COM port %2 saved too; the two would clash on another computer.</source>
+        <translation>相机 %1 中也保存了 COM 端口 %2；在另一台计算机上两者会发生冲突。</translation>
+    </message>
+</context>
+<context>
+    <name>ComPortTest</name>
+    <message>
+        <location filename="../../src/comport/comporttest.cpp" line="+47"/>
+        <source>%1 is in use by another program, or this user may not open it.</source>
+        <translation>%1 正被其他程序使用，或当前用户无权打开。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 does not exist (any more).</source>
+        <translation>%1 不存在（或已不存在）。</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 could not be opened: %2</source>
+        <translation>无法打开 %1：%2</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>The camera behind %1 answered with an error: %2</source>
+        <translation>%1 上的相机返回错误：%2</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 answered something that is not a camera&apos;s identification: &quot;%2&quot;</source>
+        <translation>%1 的应答不是相机标识：“%2”</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 went away during the test: %2</source>
+        <translation>%1 在测试期间已断开：%2</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 did not answer within %2 ms.</source>
+        <translation>%1 未在 %2 毫秒内应答。</translation>
     </message>
 </context>
 <context>
@@ -1367,7 +1849,7 @@ The value could not be read back.</source>
         <translation>否</translation>
     </message>
     <message>
-        <location filename="../../src/details/deviceinfomodel.cpp" line="+73"/>
+        <location filename="../../src/details/deviceinfomodel.cpp" line="+77"/>
         <source>Parameter</source>
         <translation>参数</translation>
     </message>
@@ -1938,7 +2420,7 @@ The value could not be read back.</source>
 <context>
     <name>DeviceInfoView</name>
     <message>
-        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+82"/>
+        <location filename="../../src/details/widgets/deviceinfoview.cpp" line="+97"/>
         <source>Copy item values</source>
         <translation>复制条目值</translation>
     </message>
@@ -2629,6 +3111,223 @@ This may take up to %1 seconds.</source>
     </message>
 </context>
 <context>
+    <name>GeneralInfoDlg</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/generalinfodlg.cpp" line="+28"/>
+        <source>General information</source>
+        <translation>常规信息</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Drivers</source>
+        <translation>驱动程序</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB controllers</source>
+        <translation>USB 控制器</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network adapters</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Updates</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Copy to clipboard</source>
+        <translation>复制到剪贴板</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Reading …</source>
+        <translation>正在读取 …</translation>
+    </message>
+    <message>
+        <location line="+42"/>
+        <source>Copied to the clipboard.</source>
+        <translation>已复制到剪贴板。</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralInformation</name>
+    <message>
+        <location filename="../../src/sysinfo/generalinformation.cpp" line="+13"/>
+        <source>Camera API library</source>
+        <translation>相机 API 库</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Kernel module</source>
+        <translation>内核模块</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Driver service</source>
+        <translation>驱动服务</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File version</source>
+        <translation>文件版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Source version</source>
+        <translation>源代码版本</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Port %1</source>
+        <translation>端口 %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Instance</source>
+        <translation>实例</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+26"/>
+        <source>Driver</source>
+        <translation>驱动程序</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+9"/>
+        <source>%n port(s)</source>
+        <translation>
+            <numerusform>%n 个端口</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PCI identity</source>
+        <translation>PCI 标识</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>no IPv4 address</source>
+        <translation>无 IPv4 地址</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>static</source>
+        <translation>静态</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>MAC address</source>
+        <translation>MAC 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>IPv4 address</source>
+        <translation>IPv4 地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver version</source>
+        <translation>驱动程序版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Driver date</source>
+        <translation>驱动程序日期</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checks for GigE cameras</source>
+        <translation>GigE 相机检查</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <location line="+16"/>
+        <source>USB controllers</source>
+        <translation>USB 控制器</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <location line="+1"/>
+        <source>still being read</source>
+        <translation>仍在读取</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+27"/>
+        <source>Network adapters</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <location line="-20"/>
+        <source>Drivers</source>
+        <translation>驱动程序</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No USB host controller was found.</source>
+        <translation>未找到 USB 主机控制器。</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>No network adapter was found.</source>
+        <translation>未找到网络适配器。</translation>
+    </message>
+</context>
+<context>
     <name>HostArpProber</name>
     <message>
         <location filename="../../src/network/hostarpprober_linux.cpp" line="+74"/>
@@ -2721,6 +3420,19 @@ This may take up to %1 seconds.</source>
         <location line="+1"/>
         <source> and </source>
         <translation>和</translation>
+    </message>
+</context>
+<context>
+    <name>InfoTreeView</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/infotreeview.cpp" line="+9"/>
+        <source>Item</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>
@@ -3034,7 +3746,7 @@ It has too many values or too long names.</source>
 <context>
     <name>QCirroCameramanager</name>
     <message>
-        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+261"/>
+        <location filename="../../src/app/widgets/qcirrocameramanager.cpp" line="+276"/>
         <source>Camera list</source>
         <translation>相机列表</translation>
     </message>
@@ -3059,7 +3771,7 @@ It has too many values or too long names.</source>
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location line="+160"/>
+        <location line="+213"/>
         <source>Open eth configuration...</source>
         <translation>正在打开 ETH 配置...</translation>
     </message>
@@ -3085,7 +3797,17 @@ This operation may take up to 10 seconds.</source>
         <translation>自动配置</translation>
     </message>
     <message>
-        <location line="-2"/>
+        <location line="-89"/>
+        <source>The camera viewer was not found. Install %1 in a folder of the PATH, or set the viewer&apos;s path as &quot;%2&quot; in %3.</source>
+        <translation>未找到相机查看器。请将 %1 安装到 PATH 中的某个文件夹，或在 %3 中将查看器路径设置为“%2”。</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Identifying device %1: it blinks in two seconds ...</source>
+        <translation>正在识别设备 %1：设备将在两秒后闪烁 ...</translation>
+    </message>
+    <message>
+        <location line="+73"/>
         <source>Automatic configuration can&apos;t be applied!</source>
         <translation>无法应用自动配置！</translation>
     </message>
@@ -3126,7 +3848,7 @@ This operation may take up to 10 seconds.</source>
         <translation>设备 %1：固件上传成功。相机现在运行启动固件 %2。</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+42"/>
         <source>Save support file</source>
         <translation>保存支持文件</translation>
     </message>
@@ -3141,9 +3863,22 @@ This operation may take up to 10 seconds.</source>
         <translation>支持文件 (*.bin)</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+10"/>
+        <location line="+10"/>
         <source>Delete read-only device</source>
         <translation>删除只读设备</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>Delete the read-only device %1 (camera ID %2)?
+The driver forgets it; it comes back only when it is added again with &quot;Add Readonly Device&quot;.</source>
+        <translation>删除只读设备 %1（相机 ID %2）？
+驱动程序将不再保留该设备；只有通过“添加只读设备”重新添加后，它才会再次出现。</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>The scenario file was not loaded, so the simulated driver shows its built-in cameras: %1</source>
+        <translation>场景文件未加载，因此模拟驱动程序显示其内置相机：%1</translation>
     </message>
 </context>
 <context>
@@ -3814,14 +4549,14 @@ This operation may take up to 10 seconds.</source>
         <translation>固件映像不可用或已损坏。请重新运行 %1 安装程序。</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>The starter firmware of the camera is incompatible to the driver.
 An automatic upload will be initiated next time you open the camera. This upload will take several seconds. Do not switch off the power supply and do not unplug the camera! It is strongly recommended to upload the firmware over the button &apos;Starter Firmware Upload&apos;. The requested starter firmware version is %1.%2.%3</source>
         <translation>相机的启动固件与驱动程序不兼容。
 下次打开相机时将自动开始上传，上传需要几秒钟。请勿关闭电源，也不要拔下相机！强烈建议通过“上传启动固件”按钮上传固件。所需的启动固件版本为 %1.%2.%3</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+8"/>
         <source>Status of device %1: The camera is currently running in the boot boost mode. It is configured correctly and can be opened.</source>
         <translation>设备 %1 的状态：相机当前正在 Boot Boost 模式下运行。相机配置正确，可以打开。</translation>
     </message>
@@ -3861,7 +4596,12 @@ An automatic upload will be initiated next time you open the camera. This upload
         <translation>无可用的相机列表</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+9"/>
+        <source>The device is of a kind that this version of the Camera Manager does not know, so it can&apos;t be used here.</source>
+        <translation>此版本的相机管理器无法识别该设备类型，因此无法在此使用该设备。</translation>
+    </message>
+    <message>
+        <location line="+7"/>
         <source>Attention: You are using a camera model which is no longer supported by the current driver version.</source>
         <translation>注意：您使用的相机型号已不再受当前驱动程序版本支持。</translation>
     </message>
@@ -4593,6 +5333,195 @@ An automatic upload will be initiated next time you open the camera. This upload
     </message>
 </context>
 <context>
+    <name>UpdateCheck</name>
+    <message>
+        <location filename="../../src/sysinfo/updatecheck.cpp" line="+42"/>
+        <source>The update address &quot;%1&quot; is not an http or https address.</source>
+        <translation>更新地址“%1”不是 http 或 https 地址。</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+51"/>
+        <source>The update server did not answer within %n second(s).</source>
+        <translation>
+            <numerusform>更新服务器未在 %n 秒内应答。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The update document is larger than %1 kB and was not read.</source>
+        <translation>更新文档大于 %1 kB，未读取。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The check for updates was cancelled.</source>
+        <translation>更新检查已取消。</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>The update server answered %1 %2.</source>
+        <translation>更新服务器返回 %1 %2。</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+5"/>
+        <source>The update address redirects more than %n time(s).</source>
+        <translation>
+            <numerusform>更新地址的重定向次数超过 %n 次。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The update server redirects from https to an unencrypted address; the redirect was not followed.</source>
+        <translation>更新服务器从 https 重定向到未加密的地址；未跟随该重定向。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update server could not be reached (%1). Check the network connection and the update address.</source>
+        <translation>无法连接到更新服务器（%1）。请检查网络连接和更新地址。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document could not be fetched: %1</source>
+        <translation>无法获取更新文档：%1</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Version %1 is available; version %2 is installed.</source>
+        <translation>版本 %1 可用；已安装版本 %2。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Version %1 is the latest version.</source>
+        <translation>版本 %1 是最新版本。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDocument</name>
+    <message>
+        <location filename="../../src/sysinfo/updatedocument.cpp" line="+15"/>
+        <source>The update document&apos;s notes are not a list of texts by language.</source>
+        <translation>更新文档中的说明不是按语言排列的文本列表。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document&apos;s notes for &quot;%1&quot; are not a text.</source>
+        <translation>更新文档中“%1”的说明不是文本。</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>The update document is not valid JSON: %1 (at byte %2).</source>
+        <translation>更新文档不是有效的 JSON：%1（位于字节 %2）。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document is not a JSON object.</source>
+        <translation>更新文档不是 JSON 对象。</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document has no format number.</source>
+        <translation>更新文档没有格式编号。</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The update document has the format %1; this version reads format %2.</source>
+        <translation>更新文档的格式为 %1；此版本读取格式 %2。</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The update document names no latest version.</source>
+        <translation>更新文档未指明最新版本。</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The update document&apos;s latest version &quot;%1&quot; is not a version number such as 4.98.0.0.</source>
+        <translation>更新文档中的最新版本“%1”不是类似 4.98.0.0 的版本号。</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>(not a text)</source>
+        <translation>（不是文本）</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The update document&apos;s download page &quot;%1&quot; is not an http or https address.</source>
+        <translation>更新文档中的下载页面“%1”不是 http 或 https 地址。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <location filename="../../src/sysinfo/widgets/updatespage.cpp" line="+17"/>
+        <source>https://… address of the update document</source>
+        <translation>https://… 更新文档的地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+60"/>
+        <source>Check for updates</source>
+        <translation>检查更新</translation>
+    </message>
+    <message>
+        <location line="-58"/>
+        <source>The program asks for updates only when you press &quot;Check for updates&quot;.</source>
+        <translation>仅当您点击“检查更新”时，程序才会查询更新。</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Installed version:</source>
+        <translation>已安装版本：</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update address:</source>
+        <translation>更新地址：</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No update address is set. Enter the address of the update document that your supplier gave you.</source>
+        <translation>未设置更新地址。请输入供应商提供给您的更新文档地址。</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Asking %1 …</source>
+        <translation>正在查询 %1 …</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Open the download page</source>
+        <translation>打开下载页面</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Updates</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installed version</source>
+        <translation>已安装版本</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update address</source>
+        <translation>更新地址</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Last check</source>
+        <translation>上次检查</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Download page</source>
+        <translation>下载页面</translation>
+    </message>
+</context>
+<context>
     <name>UsbTopology</name>
     <message>
         <location filename="../../src/details/usbtopology_linux.cpp" line="+85"/>
@@ -4675,11 +5604,16 @@ lib%4_api &lt; %2.%3 配合使用！
         <translation>%1 相机管理器</translation>
     </message>
     <message>
-        <location filename="../../src/app/widgets/startup.cpp" line="+42"/>
+        <location filename="../../src/app/widgets/startup.cpp" line="+46"/>
         <source>The camera driver refused the camera list&apos;s device events.
 Return code: %1</source>
         <translation>相机驱动程序拒绝了相机列表的设备事件。
 返回代码：%1</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>%1: there is no display to show the window on (DISPLAY is not set).</source>
+        <translation>%1：没有可用于显示窗口的显示器（未设置 DISPLAY）。</translation>
     </message>
 </context>
 </TS>
