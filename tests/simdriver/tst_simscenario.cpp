@@ -612,10 +612,13 @@ void TestSimScenario::startupEnvironment()
         path = dir.filePath("missing.json");
     }
 
-    // What this process makes of the same fleet.
+    // What this process makes of the same fleet, before a timeline's first
+    // change: in real time, as the probe runs it.
+    QCOMPARE(pvsim_SetTimeScale(1.0), PV_OK);
     if (fleetFromScenario)
         QCOMPARE(pvsim_LoadScenario(path.toLocal8Bit().constData()), PV_OK);
     const std::int32_t expectedCount = cameraCount();
+    QCOMPARE(pvsim_SetTimeScale(0.001), PV_OK);
     QVERIFY(expectedCount > 0);
 
     QProcess probe;
